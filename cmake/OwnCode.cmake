@@ -1,0 +1,26 @@
+# Settings that hold for every target of ours and never reach a host's own code.
+
+add_library(tovi_own_code INTERFACE)
+target_compile_features(tovi_own_code INTERFACE cxx_std_20)
+target_compile_options(tovi_own_code INTERFACE
+  -Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Wold-style-cast -Wcast-qual -Woverloaded-virtual -Wundef -Wimplicit-fallthrough
+  -Wunused)
+target_include_directories(tovi_own_code INTERFACE
+  ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src)
+
+if(TOVISDK_SANITIZE)
+  target_compile_options(tovi_own_code INTERFACE
+    -fsanitize=${TOVISDK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tovi_own_code INTERFACE -fsanitize=${TOVISDK_SANITIZE})
+endif()
+
+# Gives a target C++20, hidden symbols and the warnings of our own code.
+function(tovi_own target)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tovi_own_code>)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,108 @@
+#include <tovisdk/codec.h>
+#include <tovisdk/packet.h>
+#include <tovisdk/protocal_parser.h>
+
+#include <climits>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "foundation/frame.h"
+#include "foundation/log.h"
+#include "security/aes.h"
+#include "security/des.h"
+#include "security/md5.h"
+#include "security/sm4.h"
+
+namespace tovi {
+namespace {
+
+constexpr std::size_t kMaxCiphered = 65535;  // what a frame carries of enciphered payload
+constexpr std::size_t kMaxBlock = 16;
+
+const char* cipherName(int mode) { return mode == kDes ? "des" : mode == kAes ? "aes" : "sm4"; }
+
+int encipherInto(std::span<char> out, std::string_view payload, int mode, std::string_view key) {
+  switch (mode) {
+    case kDes:
+      return security::desEncrypt(payload, key, out);
+    case kAes:
+      return security::Aes128(security::derivedKey(key)).encrypt(payload, out);
+    default:
+      return security::Sm4(security::derivedKey(key)).encrypt(payload, out);
+  }
+}
+
+// Nothing when the payload does not fit a frame once it is enciphered.
+std::optional<std::string> encipher(std::string_view payload, int mode, std::string_view key) {
+  const std::size_t block = mode == kDes ? 8 : kMaxBlock;
+  const std::size_t padded = payload.size() - payload.size() % block + block;
+  if (padded > kMaxCiphered) return std::nullopt;
+  std::string ciphered(padded + kMaxBlock, '\0');
+  const int length = encipherInto(ciphered, payload, mode, key);
+  if (length < 0) return std::nullopt;
+  ciphered.resize(static_cast<std::size_t>(length));
+  return ciphered;
+}
+
+bool needsEscape(char byte) {
+  return byte == ProtocalParser::PACKET_START_FLAG || byte == ProtocalParser::PACKET_END_FLAG ||
+         byte == ProtocalParser::PACKET_TRANSFER_FLAG;
+}
+
+std::string escape(std::string_view payload) {
+  std::string escaped;
+  escaped.reserve(payload.size() + payload.size() / 16);
+  for (const char byte : payload) {
+    if (needsEscape(byte)) {
+      escaped += ProtocalParser::PACKET_TRANSFER_FLAG;
+      escaped += static_cast<char>(byte & 0x0F);
+    } else {
+      escaped += byte;
+    }
+  }
+  return escaped;
+}
+
+std::string frameOf(char what, std::string_view payload) {
+  std::string frame = {ProtocalParser::PACKET_START_FLAG, '\xFF', '\xFF', what};
+  frame += escape(payload);
+  frame += ProtocalParser::PACKET_END_FLAG;
+  const int checked = static_cast<int>(frame.size());
+  frame.resize(frame.size() + ProtocalParser::PACKET_CRC_SIZE);
+  shortToBytes(frame.data(), checked, pubCalcCRC(frame.data(), checked));
+  return frame;
+}
+
+// The payload as it goes into the frame, before escaping.
+std::string carriedPayload(char what, std::string_view payload, int mode, const char* key) {
+  const bool enciphered = mode >= kDes && mode <= kSm4 && !payload.empty() && key != nullptr &&
+                          what != ProtocalParser::WHAT_SECRET_DES_MD5_REQ;
+  if (!enciphered) return std::string(payload);
+  std::optional<std::string> ciphered = encipher(payload, mode, key);
+  if (!ciphered) {
+    log::error("makeSendPacketEx %s encode error, data lenth = -1", cipherName(mode));
+    return {};
+  }
+  return *std::move(ciphered);
+}
+
+}  // namespace
+}  // namespace tovi
+
+char* makeSendPacketEx(char what, char* data, int len, int mode, char* key, int* outLen) {
+  // Escaping doubles a payload at most, and a frame's length is an int.
+  constexpr int kMaxPayload = INT_MAX / 2 - ProtocalParser::PACKET_MIN_SIZE;
+  if (outLen != nullptr) *outLen = 0;
+  if (outLen == nullptr || (data == nullptr && len > 0) || len > kMaxPayload) {
+    tovi::log::error("makeSendPacketEx argument refused, len = %d", len);
+    return nullptr;
+  }
+  const std::string_view payload(data, len > 0 ? static_cast<std::size_t>(len) : 0);
+  const std::string frame = tovi::frameOf(what, tovi::carriedPayload(what, payload, mode, key));
+  char* result = new char[frame.size()];
+  frame.copy(result, frame.size());
+  *outLen = static_cast<int>(frame.size());
+  return result;
+}

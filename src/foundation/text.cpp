@@ -1,0 +1,73 @@
+#include <tovisdk/text.h>
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <locale>
+#include <sstream>
+
+#include "platform/text.h"
+
+std::string format_string(std::string format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  std::va_list again;
+  va_copy(again, arguments);
+  std::string text;
+  const int length = std::vsnprintf(nullptr, 0, format.c_str(), arguments);
+  if (length > 0) {
+    text.resize(static_cast<std::size_t>(length));
+    std::vsnprintf(text.data(), text.size() + 1, format.c_str(), again);
+  }
+  va_end(again);
+  va_end(arguments);
+  return text;
+}
+
+std::vector<std::string> split(const std::string& text, const std::string& separator) {
+  if (text.empty()) return {};
+  if (separator.empty()) return {text};
+  std::vector<std::string> fields;
+  std::size_t start = 0;
+  for (std::size_t end; (end = text.find(separator, start)) != std::string::npos;) {
+    fields.push_back(text.substr(start, end - start));
+    start = end + separator.size();
+  }
+  fields.push_back(text.substr(start));
+  return fields;
+}
+
+bool string_To_Bool(const std::string& text) {
+  const auto sameLetter = [](char a, char b) { return (a | 0x20) == b; };
+  const std::string yes = "true";
+  return text == "1" || std::equal(text.begin(), text.end(), yes.begin(), yes.end(), sameLetter);
+}
+
+long long toviStoll(const std::string& text) {
+  std::istringstream stream(text);
+  // A host's global locale may group digits.
+  stream.imbue(std::locale::classic());
+  long long number = 0;
+  stream >> number;
+  return number;
+}
+
+std::string string_To_UTF8(const std::string& text) {
+  return tovi::platform::localToUtf8(text).value_or(text);
+}
+
+std::string UTF8_To_string(const std::string& text) {
+  return tovi::platform::utf8ToLocal(text).value_or(text);
+}
+
+void printfHexCharArray(const char* data, int len) {
+  if (data == nullptr) return;
+  for (int i = 0; i < len; ++i)
+    std::printf("%0X", static_cast<unsigned>(static_cast<unsigned char>(data[i])));
+}
+
+void deleteArry(char** array) {
+  if (array == nullptr) return;
+  delete[] * array;
+  *array = nullptr;
+}

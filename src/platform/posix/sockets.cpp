@@ -1,0 +1,167 @@
+#include "platform/sockets.h"
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+
+#include "platform/deadline.h"
+#include "platform/posix/descriptors.h"
+#include "platform/system.h"
+
+namespace tovi::platform {
+
+namespace {
+
+// Waits for an event; false when the deadline had passed before. Whatever the answer of poll, the
+// caller tries its call again: only that tells what happened.
+bool awaitEvent(int descriptor, short event, const Deadline& deadline) {
+  const int remaining = deadline.remainingMs();
+  if (remaining == 0) {
+    errno = EAGAIN;
+    return false;
+  }
+  pollfd watched{descriptor, event, 0};
+  const int ready = ::poll(&watched, 1, remaining);
+  if (ready < 0) return errno == EINTR;
+  // An error report that the retried call does not take away, such as a time stamp in the error
+  // queue of a host's socket, would turn the wait into a busy loop.
+  if (ready > 0 && (watched.revents & event) == 0) pauseFor(1);
+  return true;
+}
+
+// Repeats a call that never waits by itself until it succeeds, fails or the deadline has passed.
+template <typename Call>
+ssize_t untilDone(int descriptor, short event, const Deadline& deadline, Call call) {
+  for (;;) {
+    const ssize_t result = call();
+    if (result >= 0) return result;
+    if (errno == EINTR) continue;
+    if (errno != EAGAIN && errno != EWOULDBLOCK) return -1;
+    if (!awaitEvent(descriptor, event, deadline)) return -1;
+  }
+}
+
+// Connects a non-blocking socket; 0 or the error number.
+int connectWithin(int descriptor, const sockaddr_in& peer, const Deadline& deadline) {
+  if (::connect(descriptor, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) == 0) return 0;
+  if (errno != EINPROGRESS && errno != EINTR) return errno;
+  pollfd watched{descriptor, POLLOUT, 0};
+  int ready = 0;
+  do {
+    ready = ::poll(&watched, 1, deadline.remainingMs());
+  } while (ready < 0 && errno == EINTR);
+  if (ready < 0) return errno;
+  if (ready == 0) return ETIMEDOUT;
+  int error = 0;
+  socklen_t size = sizeof error;
+  return ::getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 ? error : errno;
+}
+
+}  // namespace
+
+Socket adoptDescriptor(int descriptor) {
+  if (descriptor < 0) return kInvalidSocket;
+  if (descriptor <= STDERR_FILENO) {
+    const int moved = ::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    const int error = errno;
+    ::close(descriptor);
+    errno = error;
+    if (moved < 0) return kInvalidSocket;
+    descriptor = moved;
+  }
+  return static_cast<Socket>(descriptor);
+}
+
+std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port) {
+  sockaddr_in result{};
+  if (address == nullptr || ::inet_pton(AF_INET, address, &result.sin_addr) != 1) {
+    errno = EINVAL;
+    return std::nullopt;
+  }
+  result.sin_family = AF_INET;
+  result.sin_port = htons(port);
+  return result;
+}
+
+StartUp startUpSockets() { return StartUp::Ready; }
+void cleanUpSockets() {}
+
+Socket openSocket() { return adoptDescriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)); }
+
+void closeSocket(Socket socket) { ::close(descriptorOf(socket)); }
+
+void setTimeouts(Socket socket, int milliseconds) {
+  const int bounded = std::max(milliseconds, 0);
+  timeval value{};
+  value.tv_sec = bounded / 1000;
+  value.tv_usec = bounded % 1000 * 1000;
+  for (const int option : {SO_SNDTIMEO, SO_RCVTIMEO}) {
+    ::setsockopt(descriptorOf(socket), SOL_SOCKET, option, &value, sizeof value);
+  }
+}
+
+int receiveTimeout(Socket socket) {
+  timeval value{};
+  socklen_t size = sizeof value;
+  if (::getsockopt(descriptorOf(socket), SOL_SOCKET, SO_RCVTIMEO, &value, &size) != 0) return 0;
+  if (value.tv_sec >= INT_MAX / 1000) return INT_MAX;
+  // Rounded up: a fraction of a millisecond is not "none".
+  return static_cast<int>(value.tv_sec * 1000 + (value.tv_usec + 999) / 1000);
+}
+
+bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs) {
+  const auto peer = ipv4Address(address, port);
+  if (!peer) return false;
+  // The socket is the library's own, so its mode may change for a moment. A blocking connect that a
+  // signal interrupts cannot be resumed.
+  const int descriptor = descriptorOf(socket);
+  const int flags = ::fcntl(descriptor, F_GETFL);
+  if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags | O_NONBLOCK) != 0) return false;
+  const int error = connectWithin(descriptor, *peer, Deadline::ofTimeout(timeoutMs));
+  ::fcntl(descriptor, F_SETFL, flags);
+  errno = error;
+  return error == 0;
+}
+
+int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
+  if (bytes.size() > INT_MAX) {
+    errno = EMSGSIZE;
+    return -1;
+  }
+  const int descriptor = descriptorOf(socket);
+  // One deadline for the whole, or a peer that reads a byte now and then would stretch it for ever.
+  const Deadline deadline = Deadline::ofTimeout(timeoutMs);
+  for (std::string_view rest = bytes; !rest.empty();) {
+    const ssize_t taken = untilDone(descriptor, POLLOUT, deadline, [&] {
+      return ::send(descriptor, rest.data(), rest.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+    });
+    if (taken < 0) return -1;
+    rest.remove_prefix(static_cast<std::size_t>(taken));
+  }
+  return static_cast<int>(bytes.size());
+}
+
+int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs) {
+  // Into no room at all the system receives 0 bytes, which would read as the peer's end.
+  if (buffer.empty()) {
+    errno = EINVAL;
+    return -1;
+  }
+  const int descriptor = descriptorOf(socket);
+  const std::size_t room = std::min<std::size_t>(buffer.size(), INT_MAX);
+  const ssize_t received = untilDone(descriptor, POLLIN, Deadline::ofTimeout(timeoutMs), [&] {
+    return ::recv(descriptor, buffer.data(), room, MSG_DONTWAIT);
+  });
+  return static_cast<int>(received);
+}
+
+int lastSocketError() { return errno; }
+
+}  // namespace tovi::platform

@@ -1,0 +1,130 @@
+#include <tovisdk/tovi_traffic.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "foundation/log.h"
+#include "platform/sockets.h"
+
+namespace platform = tovi::platform;
+
+namespace {
+
+constexpr int kDefaultTimeout = 20000;
+constexpr std::size_t kAddressSize =
+    20;  // a dotted IPv4 text and its closing zero, with room to spare
+
+// An address that does not fit is kept as the empty text, which no connection attempt accepts.
+char* newAddress(const char* ip) {
+  char* address = new char[kAddressSize]();
+  if (ip == nullptr || ::strnlen(ip, kAddressSize) == kAddressSize) {
+    tovi::log::error("ToviTraffic::ToviTraffic address refused");
+  } else {
+    std::strcpy(address, ip);
+  }
+  return address;
+}
+
+}  // namespace
+
+ToviTraffic::ToviTraffic(const char* ip, unsigned short port)
+    : mPort(port),
+      mTimeout(kDefaultTimeout),
+      mSocket(0),
+      mProtocalParser(nullptr),
+      mDesKey(nullptr),
+      mAesKey(nullptr),
+      mSm4Key(nullptr),
+      mOutcome(ToviOutcome::Done) {
+  tovi::log::info("ToviTraffic::ToviTraffic init client mode start");
+  mIp = newAddress(ip);
+  tovi::log::info("ToviTraffic::ToviTraffic init client mode end");
+}
+
+ToviTraffic::ToviTraffic(std::uint64_t socket)
+    : mIp(nullptr),
+      mPort(0),
+      mTimeout(kDefaultTimeout),
+      mSocket(socket),
+      mProtocalParser(nullptr),
+      mDesKey(nullptr),
+      mAesKey(nullptr),
+      mSm4Key(nullptr),
+      mOutcome(ToviOutcome::Done) {
+  tovi::log::info("ToviTraffic::ToviTraffic init server mode start");
+  // The closing line repeats the opening one; readers of these logs know it so.
+  tovi::log::info("ToviTraffic::ToviTraffic init server mode start");
+}
+
+ToviTraffic::~ToviTraffic() {
+  tovi::log::info("ToviTraffic::~ToviTraffic start");
+  if (mProtocalParser != nullptr) {
+    tovi::log::info("ToviTraffic::~ToviTraffic release mProtocalParser start");
+    delete mProtocalParser;
+    mProtocalParser = nullptr;
+    tovi::log::info("ToviTraffic::~ToviTraffic release mProtocalParser end");
+  }
+  for (char* text : {mIp, mDesKey, mAesKey, mSm4Key}) delete[] text;
+  tovi::log::info("ToviTraffic::~ToviTraffic end");
+}
+
+void ToviTraffic::setTimeout(int ms) {
+  tovi::log::info("setTimeout start");
+  mTimeout = std::max(ms, 0);
+}
+
+void ToviTraffic::setSocket(std::uint64_t socket) { mSocket = socket; }
+
+ToviOutcome ToviTraffic::lastOutcome() const { return mOutcome; }
+
+void ToviTraffic::discardKeptBytes() {
+  tovi::log::info("discardKeptBytes start");
+  if (mProtocalParser != nullptr) mProtocalParser->keep({});
+}
+
+std::uint64_t ToviTraffic::getSocket() {
+  if (mSocket != 0) {
+    if (mSocket == platform::kInvalidSocket) {
+      tovi::log::error("ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null");
+      return 0;
+    }
+    tovi::log::info("ToviTraffic::getSocket return mSocket");
+    return mSocket;
+  }
+  switch (platform::startUpSockets()) {
+    case platform::StartUp::Failed:
+      tovi::log::error("ToviTraffic::getSocket WSAStartup error");
+      return 0;
+    case platform::StartUp::WrongVersion:
+      tovi::log::error("ToviTraffic::getSocket WSA version error");
+      return 0;
+    case platform::StartUp::Ready:
+      break;
+  }
+  const std::uint64_t socket = connectToController();
+  if (socket == 0) platform::cleanUpSockets();
+  return socket;
+}
+
+std::uint64_t ToviTraffic::connectToController() {
+  const platform::Socket socket = platform::openSocket();
+  if (socket == platform::kInvalidSocket) {
+    tovi::log::error("ToviTraffic::getSocket create socket error");
+    return 0;
+  }
+  platform::setTimeouts(socket, mTimeout);
+  if (!platform::connectSocket(socket, mIp, mPort, mTimeout)) {
+    tovi::log::error("ToviTraffic::getSocket connect socket error");
+    platform::closeSocket(socket);
+    return 0;
+  }
+  tovi::log::info("ToviTraffic::getSocket return toviSocket");
+  return socket;
+}
+
+void ToviTraffic::closeSocket(std::uint64_t socket) {
+  if (mSocket != 0 || socket == 0) return;
+  tovi::log::info("ToviTraffic::closeSocket close toviSocket");
+  platform::closeSocket(socket);
+  platform::cleanUpSockets();
+}
