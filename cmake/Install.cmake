@@ -9,6 +9,10 @@ install(TARGETS tovisdk tovisdk_static EXPORT tovisdk-targets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tovisdk ${PROJECT_BINARY_DIR}/include/tovisdk
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+if(TOVISDK_TOOLS)
+  install(TARGETS tovisim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+
 install(EXPORT tovisdk-targets NAMESPACE tovisdk:: DESTINATION ${package_folder})
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/tovisdk-config.cmake.in
   ${PROJECT_BINARY_DIR}/tovisdk-config.cmake INSTALL_DESTINATION ${package_folder})

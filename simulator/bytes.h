@@ -1,0 +1,24 @@
+// Bytes of the wire and how they read on a terminal.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tovi::sim {
+
+using Bytes = std::vector<std::uint8_t>;
+using View = std::span<const std::uint8_t>;
+
+Bytes bytesOf(std::string_view text);
+std::string textOf(View bytes);
+
+// "AA FF 07"; with a limit, the first bytes and how many there are in all.
+std::string hex(View bytes, std::size_t limit = SIZE_MAX);
+
+// Text of a stranger, safe to print: UTF-8 stays, control characters and other bytes become \xNN.
+std::string printable(std::string_view text);
+
+}  // namespace tovi::sim

@@ -1,0 +1,287 @@
+#include "simulator/server.h"
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <system_error>
+#include <utility>
+
+#include "simulator/describe.h"
+
+namespace tovi::sim {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr int kDialMs = 5000;
+constexpr int kWakeMs = 1000;
+constexpr std::size_t kReceiveSize = 4096;
+
+// A peer that takes nothing for so long is given up, because meanwhile all others wait.
+constexpr int kSendMs = 2000;
+
+// When a connection cannot be taken, most likely for want of descriptors, trying again at once
+// would only burn the processor.
+constexpr milliseconds kAcceptPause{20};
+
+}  // namespace
+
+struct Simulator::Connection {
+  struct Due {
+    Clock::time_point when;
+    Step step;
+  };
+
+  platform::Socket socket;
+  std::string peer;
+  FrameReader reader;
+  std::deque<Due> due;
+  bool hangingUp =
+      false;  // a step that ends the connection is due; requests are not heard any more
+  bool ended = false;
+
+  // Nothing is read while a reply is due, so a peer that asks without listening fills no memory.
+  bool isListening() const { return due.empty() && !hangingUp && !ended; }
+
+  void add(std::vector<Step> steps) {
+    for (Step& step : steps) {
+      const Clock::time_point before = due.empty() ? Clock::now() : due.back().when;
+      hangingUp = hangingUp || step.end != End::Stay;
+      due.push_back({before + milliseconds(step.delayMs), std::move(step)});
+    }
+  }
+};
+
+Simulator::Simulator(Options options)
+    : mOptions(std::move(options)), mController(mOptions.state), mFaults(mOptions.faults) {
+  mController.change([this](State& state) { state.secret = mOptions.key.cipher != Cipher::None; });
+}
+
+Simulator::~Simulator() { stop(); }
+
+bool Simulator::start() {
+  const std::lock_guard lock(mStopMutex);
+  if (mStarted) return false;
+  if (platform::startUpSockets() != platform::StartUp::Ready) {
+    mError = "the socket layer does not start";
+    return false;
+  }
+  if (!openWakeUp() || !(mOptions.dial ? dial() : listen())) {
+    releaseSockets();
+    return false;
+  }
+  mStarted = true;
+  mThread = std::thread([this] { run(); });
+  return true;
+}
+
+bool Simulator::listen() {
+  mListener = platform::listenOn(mOptions.listen.address, mOptions.listen.port);
+  if (mListener == platform::kInvalidSocket) {
+    fail("cannot listen on " + endpointText(mOptions.listen));
+    return false;
+  }
+  mPort = platform::localPort(mListener);
+  return true;
+}
+
+bool Simulator::dial() {
+  const Endpoint& host = *mOptions.dial;
+  const platform::Socket socket = platform::openSocket();
+  if (socket != platform::kInvalidSocket &&
+      platform::connectSocket(socket, host.address.c_str(), host.port, kDialMs)) {
+    addConnection(socket);
+    return true;
+  }
+  fail("cannot reach a host at " + endpointText(host));
+  if (socket != platform::kInvalidSocket) platform::closeSocket(socket);
+  return false;
+}
+
+bool Simulator::openWakeUp() {
+  const platform::Socket listener = platform::listenOn("127.0.0.1", 0);
+  const platform::Socket own = platform::openSocket();
+  const bool ready =
+      listener != platform::kInvalidSocket && own != platform::kInvalidSocket &&
+      platform::connectSocket(own, "127.0.0.1", platform::localPort(listener), kWakeMs);
+  if (ready) {
+    // A stranger may have been faster; ours is the connection that comes from our own port.
+    const std::string ours = "127.0.0.1:" + std::to_string(platform::localPort(own));
+    do {
+      if (mWoken != platform::kInvalidSocket) platform::closeSocket(mWoken);
+      mWoken = platform::acceptOne(listener);
+    } while (mWoken != platform::kInvalidSocket && platform::peerName(mWoken) != ours);
+  }
+  mWake = own;
+  const bool opened = mWoken != platform::kInvalidSocket;
+  if (!opened) fail("cannot connect to itself");
+  if (listener != platform::kInvalidSocket) platform::closeSocket(listener);
+  return opened;
+}
+
+void Simulator::fail(const std::string& what) {
+  const int number = platform::lastSocketError();
+  mError = what + ": " + std::system_category().message(number);
+}
+
+void Simulator::releaseSockets() {
+  for (const auto& connection : mConnections) platform::closeSocket(connection->socket);
+  mConnections.clear();
+  for (platform::Socket* socket : {&mListener, &mWake, &mWoken}) {
+    if (*socket != platform::kInvalidSocket) platform::closeSocket(*socket);
+    *socket = platform::kInvalidSocket;
+  }
+  platform::cleanUpSockets();
+}
+
+void Simulator::stop() {
+  const std::lock_guard lock(mStopMutex);
+  if (!mThread.joinable()) return;
+  mStopping = true;
+  platform::sendAll(mWake, "x", kWakeMs);
+  mThread.join();
+  releaseSockets();
+}
+
+std::uint64_t Simulator::exchanges() const {
+  const std::lock_guard lock(mProgressMutex);
+  return mExchanges;
+}
+
+bool Simulator::waitForExchanges(std::uint64_t count, milliseconds atMost) const {
+  std::unique_lock lock(mProgressMutex);
+  return mProgress.wait_for(lock, atMost, [&] { return mExchanges >= count; });
+}
+
+bool Simulator::waitUntilFinished(milliseconds atMost) const {
+  std::unique_lock lock(mProgressMutex);
+  return mProgress.wait_for(lock, atMost, [&] { return mFinished; });
+}
+
+void Simulator::run() {
+  while (!finished()) {
+    std::vector<Connection*> heard;
+    for (const auto& connection : mConnections) {
+      if (connection->isListening()) heard.push_back(connection.get());
+    }
+    const bool accepting = mayAccept();
+    std::vector<platform::Watched> watched{{mWoken, false}};
+    for (const Connection* connection : heard) watched.push_back({connection->socket, false});
+    if (accepting) watched.push_back({mListener, false});
+
+    platform::waitReadable(watched, waitTime());
+    if (watched.front().readable) break;
+    for (std::size_t i = 0; i < heard.size(); ++i) {
+      if (watched[i + 1].readable) receive(*heard[i]);
+    }
+    if (accepting && watched.back().readable) acceptOne();
+    for (const auto& connection : mConnections) sendDue(*connection);
+    removeEnded();
+  }
+  for (const auto& connection : mConnections) connection->ended = true;
+  removeEnded();
+  const std::lock_guard lock(mProgressMutex);
+  mFinished = true;
+  mProgress.notify_all();
+}
+
+bool Simulator::finished() const {
+  if (mStopping) return true;
+  if (mOptions.dial && mConnections.empty()) return true;
+  return mOptions.exchangeLimit > 0 && exchanges() >= mOptions.exchangeLimit &&
+         std::all_of(mConnections.begin(), mConnections.end(),
+                     [](const auto& connection) { return connection->due.empty(); });
+}
+
+bool Simulator::mayAccept() const {
+  return mListener != platform::kInvalidSocket && mConnections.size() < mOptions.maxConnections &&
+         Clock::now() >= mAcceptAfter;
+}
+
+// Until the next step is due; without one, for ever.
+int Simulator::waitTime() const {
+  auto next = Clock::time_point::max();
+  if (mAcceptAfter > Clock::now()) next = mAcceptAfter;
+  for (const auto& connection : mConnections) {
+    if (!connection->due.empty()) next = std::min(next, connection->due.front().when);
+  }
+  if (next == Clock::time_point::max()) return -1;
+  const auto left = std::chrono::ceil<milliseconds>(next - Clock::now()).count();
+  return static_cast<int>(std::max<decltype(left)>(left, 0));
+}
+
+void Simulator::acceptOne() {
+  const platform::Socket socket = platform::acceptOne(mListener);
+  if (socket == platform::kInvalidSocket) {
+    mAcceptAfter = Clock::now() + kAcceptPause;
+  } else {
+    addConnection(socket);
+  }
+}
+
+void Simulator::addConnection(platform::Socket socket) {
+  auto connection = std::make_unique<Connection>();
+  connection->socket = socket;
+  connection->peer = platform::peerName(socket);
+  mConnections.push_back(std::move(connection));
+}
+
+void Simulator::receive(Connection& connection) {
+  std::array<char, kReceiveSize> buffer;
+  const int size = platform::receiveSome(connection.socket, buffer, 1);
+  if (size <= 0) {
+    connection.ended = true;
+    const std::size_t unfinished = connection.reader.unfinished();
+    if (unfinished > 0) {
+      say(connection.peer + "  hung up inside a frame, after " + std::to_string(unfinished) +
+          " bytes");
+    }
+    return;
+  }
+  const Bytes bytes = bytesOf({buffer.data(), static_cast<std::size_t>(size)});
+  for (const Received& received : connection.reader.feed(bytes)) serve(connection, received);
+}
+
+void Simulator::serve(Connection& connection, const Received& received) {
+  const bool enough = mOptions.exchangeLimit > 0 && exchanges() >= mOptions.exchangeLimit;
+  if (connection.hangingUp || enough) return;
+  if (received.drop != Drop::None) return say(dropLine(connection.peer, received));
+  auto request = readRequest(received, mOptions.key);
+  if (!request) return say(unreadableLine(connection.peer, received, mOptions.key));
+
+  Exchange exchange = converse(std::move(*request), mController, mOptions.key, mFaults);
+  std::string line = exchangeLine(connection.peer, exchange);
+  if (mOptions.frames) line += '\n' + exchangeFrames(exchange);
+  say(line);
+  connection.add(std::move(exchange.steps));
+
+  const std::lock_guard lock(mProgressMutex);
+  ++mExchanges;
+  mProgress.notify_all();
+}
+
+void Simulator::sendDue(Connection& connection) {
+  while (!connection.ended && !connection.due.empty() &&
+         connection.due.front().when <= Clock::now()) {
+    const Step step = std::move(connection.due.front().step);
+    connection.due.pop_front();
+    const std::string bytes = textOf(step.bytes);
+    const bool sent = bytes.empty() || platform::sendAll(connection.socket, bytes, kSendMs) >= 0;
+    if (step.end == End::Reset) platform::resetOnClose(connection.socket);
+    connection.ended = !sent || step.end != End::Stay;
+  }
+}
+
+void Simulator::removeEnded() {
+  std::erase_if(mConnections, [](const auto& connection) {
+    if (connection->ended) platform::closeSocket(connection->socket);
+    return connection->ended;
+  });
+}
+
+void Simulator::say(const std::string& line) const {
+  if (mOptions.onLine) mOptions.onLine(line);
+}
+
+}  // namespace tovi::sim
