@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <optional>
+
+#include "tests/support/hex.h"
+#include "tests/support/test_access.h"
+
+namespace {
+
+using tovi::test::hex;
+using tovi::test::toHex;
+using Access = ToviTestAccess;
+
+constexpr char kStatus80[] =
+    "AA FF FF 02 34 12 00 00 00 00 05 01 01 01 01 19 01 00 00 C8 02 50 CC E5 4C";
+constexpr char kAccepted08[] = "AA FF FF 08 01 CC 4E 42";
+constexpr char kNone[] = "none";
+
+char* newKey(const char* text) {
+  char* key = new char[std::strlen(text) + 1];
+  return std::strcpy(key, text);
+}
+
+std::string feed(ProtocalParser& parser, const std::string& bytes, int what) {
+  // An exactly sized copy, so that a read past its end is seen.
+  const std::unique_ptr<char[]> exact(new char[bytes.size()]);
+  bytes.copy(exact.get(), bytes.size());
+  const std::unique_ptr<char[]> package(
+      parser.recvProc(exact.get(), static_cast<int>(bytes.size()), static_cast<short>(what)));
+  if (package == nullptr) return kNone;
+  return toHex({package.get(), static_cast<std::size_t>(Access::packageLen(parser))});
+}
+
+TEST(PacketReceiver, PlainFrames) {
+  struct {
+    const char* what;
+    int code;
+    const char* bytes;
+    const char* package;
+  } const cases[] = {
+      {"empty payload", 0x10, "AA FF FF 10 CC 34 0C", "10"},
+      {"status byte", 0x08, kAccepted08, "08 01"},
+      {"escaped payload", 0x7E, "AA FF FF 7E 00 EE 0A EE 0C EE 0E FF CC 29 A0",
+       "7E 00 AA CC EE FF"},
+      {"checksum through the altered entry", 0x08, "AA FF FF 08 01 05 CC DA BF", "08 01 05"},
+      {"checksum by the unaltered table", 0x08, "AA FF FF 08 01 05 CC EA BA", kNone},
+      {"wrong checksum", 0x08, "AA FF FF 08 01 CC 4E 43", kNone},
+      {"another command", 0x07, kAccepted08, kNone},
+      {"8-bit code above 0x7F, widened", -87, "AA FF FF A9 C8 CC F7 0A", "A9 C8"},
+      {"8-bit code above 0x7F, not widened", 0xA9, "AA FF FF A9 C8 CC F7 0A", kNone},
+      {"16-bit code", 0x0115, "AA FF FF EF 15 01 01 CC 4A F7", "15 01 01"},
+      {"another 16-bit code", 0x0114, "AA FF FF EF 15 01 01 CC 4A F7", kNone},
+      {"16-bit code cut to one byte", 0x010C, "AA FF FF EF 0C CC 92 77", kNone},
+      {"16-bit code missing", 0x010C, "AA FF FF EF CC F4 F3", kNone},
+      {"bad escape", 0x08, "AA FF FF 08 01 EE 00 CC 83 07", kNone},
+      {"escape before the end flag", 0x08, "AA FF FF 08 01 EE CC DB B7", kNone},
+      {"escape in the header", 0x08, "AA EE 0A 08 01 CC 36 E4", kNone},
+      {"header of escapes, too short at last", -86, "AA EE 0A EE 0C CC 36 8B", kNone},
+      {"shorter than a frame", -52, "AA FF FF CC E1 48", kNone},
+      {"garbage without a start flag swallows the frame", 0x08, "01 02 03 AA FF FF 08 01 CC 4E 42",
+       kNone},
+      {"garbage that ends itself", 0x08, "01 CC 03 04 AA FF FF 08 01 CC 4E 42", "08 01"},
+      {"broken frame before a good one", 0x08, "AA FF FF 08 00 CC 00 00 AA FF FF 08 01 CC 4E 42",
+       "08 01"},
+      {"another reply first", 0x08, "AA FF FF 10 CC 34 0C AA FF FF 08 01 CC 4E 42", "08 01"},
+  };
+  for (const auto& c : cases) {
+    ProtocalParser parser;
+    EXPECT_EQ(feed(parser, hex(c.bytes), c.code), c.package) << c.what;
+    EXPECT_EQ(Access::needMore(parser), c.package == kNone) << c.what;
+  }
+}
+
+TEST(PacketReceiver, AFrameMayBeSplitAnywhere) {
+  const std::string frame = hex(kStatus80);
+  for (std::size_t cut = 0; cut <= frame.size(); ++cut) {
+    ProtocalParser parser;
+    if (cut < frame.size()) {
+      EXPECT_EQ(feed(parser, frame.substr(0, cut), 0x02), kNone) << cut;
+      EXPECT_TRUE(Access::needMore(parser));
+      EXPECT_EQ(toHex(Access::pending(parser)), toHex(frame.substr(0, cut)));
+    }
+    EXPECT_EQ(feed(parser, frame.substr(cut < frame.size() ? cut : 0), 0x02),
+              "02 34 12 00 00 00 00 05 01 01 01 01 19 01 00 00 C8 02 50")
+        << cut;
+    EXPECT_EQ(Access::pending(parser), "");
+  }
+}
+
+TEST(PacketReceiver, BytesAfterAPackageAreKept) {
+  ProtocalParser parser;
+  EXPECT_EQ(feed(parser, hex(std::string(kAccepted08) + "AA FF FF 10 CC 34 0C AA FF"), 0x08),
+            "08 01");
+  EXPECT_FALSE(Access::needMore(parser));
+  EXPECT_EQ(feed(parser, "", 0x10), "10");
+  EXPECT_EQ(toHex(Access::pending(parser)), "AA FF");
+  EXPECT_EQ(feed(parser, hex("FF 08 01 CC 4E 42"), 0x08), "08 01");
+}
+
+TEST(PacketReceiver, SkippedFramesStayForAnotherCommand) {
+  ProtocalParser parser;
+  EXPECT_EQ(feed(parser, hex(kAccepted08), 0x10), kNone);
+  EXPECT_EQ(feed(parser, "", 0x08), "08 01");
+}
+
+struct Enciphered {
+  const char* what;
+  int mode;
+  int code;
+  const char* bytes;
+  const char* package;
+};
+
+TEST(PacketReceiver, EncipheredFrames) {
+  const Enciphered cases[] = {
+      {"des", 1, 0x08, "AA FF FF 08 DE EC BA 37 86 7B D1 42 CC A1 53", "08 01"},
+      {"aes", 2, 0x08, "AA FF FF 08 4B EF F6 33 C5 AD 79 50 20 68 F1 0A 8D E0 65 7E CC 79 20",
+       "08 01"},
+      {"sm4", 3, 0x08, "AA FF FF 08 36 11 51 65 43 4C D6 0E E1 2D 06 4B C6 A6 9D 38 CC ED 4D",
+       "08 01"},
+      {"des, 16-bit code", 1, 0x0110, "AA FF FF EF 5A 13 DF C5 2F CF 8D 7F CC EE D5",
+       "10 01 00 01"},
+      {"aes, 16-bit code", 2, 0x0110,
+       "AA FF FF EF 19 61 1C 34 EE 0C AC C4 81 FC 8A FE 9F 72 DF 0B 57 CC 8B D9", "10 01 00 01"},
+      {"sm4, 16-bit code", 3, 0x0110,
+       "AA FF FF EF 18 07 DC E4 F5 35 7F 79 CB 56 4C 43 67 28 03 69 CC 2C 24", "10 01 00 01"},
+      {"another 16-bit code inside", 1, 0x0111, "AA FF FF EF 5A 13 DF C5 2F CF 8D 7F CC EE D5",
+       kNone},
+      {"a plain 16-bit reply is no answer to a session with a key", 1, 0x0115,
+       "AA FF FF EF 15 01 01 CC 4A F7", kNone},
+      {"the secret handshake is plain", 1, 0x71, "AA FF FF 71 01 CC 88 5E", "71 01"},
+      {"so is 0x010C", 1, 0x010C, "AA FF FF EF 0C 01 01 CC 88 CD", "0C 01 01"},
+      {"so is 0x010C", 2, 0x010C, "AA FF FF EF 0C 01 01 CC 88 CD", "0C 01 01"},
+      {"so is 0x010C", 3, 0x010C, "AA FF FF EF 0C 01 01 CC 88 CD", "0C 01 01"},
+      {"empty payload", 1, 0x10, "AA FF FF 10 CC 34 0C", "10"},
+      // What cannot be deciphered is handed over as it came.
+      {"des, shorter than a block", 1, 0x08, "AA FF FF 08 01 CC 4E 42", "08 01"},
+      {"des, ragged, more padding than text", 1, 0x08,
+       "AA FF FF 08 42 BD F2 21 06 F0 84 77 62 F0 CC 5B 17", "08 42 BD F2 21 06 F0 84 77 62 F0"},
+      {"des, ragged, one byte of text", 1, 0x08,
+       "AA FF FF 08 DF 84 9B AD 05 D4 A1 0A C0 44 1E CC 9C F7", "08 9C"},
+      {"aes, no whole block", 2, 0x08,
+       "AA FF FF 08 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F CC AE D7",
+       "08 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F"},
+      {"aes, padding 0", 2, 0x08,
+       "AA FF FF 08 FF 1E FF 51 38 8C 56 5D 56 F7 72 5B 13 42 3F 89 CC 40 3F",
+       "08 FF 1E FF 51 38 8C 56 5D 56 F7 72 5B 13 42 3F 89"},
+      {"aes, padding beyond the text", 2, 0x08,
+       "AA FF FF 08 C6 1D 48 25 E3 A1 78 9F FB FF 6C D5 94 74 41 93 CC F8 EB",
+       "08 C6 1D 48 25 E3 A1 78 9F FB FF 6C D5 94 74 41 93"},
+      {"aes, nothing but padding", 2, 0x08,
+       "AA FF FF 08 12 E0 8E 57 9A 9C FE E3 02 84 CE 10 27 45 1E 18 CC C3 85",
+       "08 12 E0 8E 57 9A 9C FE E3 02 84 CE 10 27 45 1E 18"},
+      {"sm4, broken padding", 3, 0x08,
+       "AA FF FF 08 B0 8B 88 64 F4 59 EE 0C F8 71 AF 3D 2F 9C 35 0B C0 CC 8B 69",
+       "08 B0 8B 88 64 F4 59 CC F8 71 AF 3D 2F 9C 35 0B C0"},
+      {"sm4, broken padding after a good block", 3, 0x08,
+       "AA FF FF 08 35 BD ED 67 F5 A5 72 57 C9 46 44 6B 75 2F 91 A7 9A 01 1E 02 AC 34 87 3B 3B 88 "
+       "1D 8F DE "
+       "43 70 94 CC 82 4B",
+       "08 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 10"},
+  };
+  for (const Enciphered& c : cases) {
+    ProtocalParser parser(newKey("12345678"), c.mode);
+    EXPECT_EQ(feed(parser, hex(c.bytes), c.code), c.package) << c.what << ", mode " << c.mode;
+  }
+}
+
+TEST(PacketReceiver, OtherModesArePlain) {
+  for (const int mode : {0, 4, -1}) {
+    ProtocalParser parser(newKey("12345678"), mode);
+    EXPECT_EQ(feed(parser, hex(kAccepted08), 0x08), "08 01");
+  }
+  ProtocalParser noKey(nullptr, 1);
+  EXPECT_EQ(feed(noKey, hex(kAccepted08), 0x08), "08 01");
+}
+
+TEST(PacketReceiver, FramesLargerThanABlockGrow) {
+  // 4,096 and more bytes, all of them escaped; the checksums were computed elsewhere.
+  struct {
+    std::size_t payload;
+    const char* checksum;
+  } const cases[] = {{2044, "DA 44"}, {2045, "F8 E1"}, {65535, "F5 32"}};
+  for (const auto& c : cases) {
+    std::string frame = hex("AA FF FF 08");
+    for (std::size_t i = 0; i < c.payload; ++i) frame += "\xEE\x0A";
+    frame += hex(std::string("CC") + c.checksum);
+    ProtocalParser parser;
+    const std::string package = feed(parser, frame, 0x08);
+    EXPECT_EQ(package.size(), (c.payload + 1) * 3 - 1) << c.payload;
+  }
+}
+
+TEST(PacketReceiver, KeptBytesAreBounded) {
+  constexpr std::size_t kBound = std::size_t{4} << 20;
+  ProtocalParser parser;
+  const std::string endless(1 << 20, 'x');
+  for (int i = 0; i < 12; ++i) {
+    EXPECT_EQ(feed(parser, endless, 0x08), kNone);
+    EXPECT_LE(Access::pending(parser).size(), kBound);
+  }
+  // A frame that is still open when the bound is met survives it.
+  ProtocalParser open;
+  feed(open, std::string(kBound, 'x') + hex("CC 00 00 AA FF FF 08"), 0x08);
+  EXPECT_EQ(toHex(Access::pending(open)), "AA FF FF 08");
+  EXPECT_EQ(feed(open, hex("01 CC 4E 42"), 0x08), "08 01");
+}
+
+TEST(PacketReceiver, NoBytesAreNoPackage) {
+  ProtocalParser parser;
+  EXPECT_EQ(parser.recvProc(nullptr, 0, 0x08), nullptr);
+  EXPECT_EQ(parser.recvProc(nullptr, 5, 0x08), nullptr);
+  EXPECT_TRUE(Access::needMore(parser));
+}
+
+}  // namespace

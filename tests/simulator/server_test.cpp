@@ -1,0 +1,407 @@
+#include "simulator/server.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <condition_variable>
+#include <list>
+#include <mutex>
+
+#include "tests/simulator/literal.h"
+
+namespace tovi::sim {
+namespace {
+
+using std::chrono::milliseconds;
+
+// Only ever waited out by a test that fails.
+constexpr int kLongMs = 20'000;
+constexpr milliseconds kLong{kLongMs};
+
+constexpr std::string_view kSetBrightness = "AA FF FF 07 02 50 CC 38 4A";
+constexpr std::string_view kAccepted = "AA FF FF 08 01 CC 4E 42";
+constexpr std::string_view kGetVolume = "AA FF FF A9 CC 42 E1";
+constexpr std::string_view kVolume50 = "AA FF FF A9 32 CC 8F 8B";
+
+// A host of the crudest kind: one connection, bytes in and out.
+class Host {
+ public:
+  explicit Host(platform::Socket socket) : mSocket(socket) {}
+  explicit Host(std::uint16_t port) : mSocket(platform::openSocket()) {
+    EXPECT_TRUE(platform::connectSocket(mSocket, "127.0.0.1", port, kLongMs));
+  }
+  ~Host() { platform::closeSocket(mSocket); }
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  void send(std::string_view bytes) {
+    const std::string text = textOf(literal(bytes));
+    EXPECT_EQ(platform::sendAll(mSocket, text, kLongMs), static_cast<int>(text.size()));
+  }
+
+  // As many bytes as expected are long, or fewer at the connection's end.
+  std::string receive(std::size_t size) {
+    Bytes all;
+    std::array<char, 256> buffer;
+    while (all.size() < size) {
+      const auto room = std::min(buffer.size(), size - all.size());
+      const int got = platform::receiveSome(mSocket, std::span(buffer).first(room), kLongMs);
+      if (got <= 0) break;
+      all.insert(all.end(), buffer.begin(), buffer.begin() + got);
+    }
+    return hex(all);
+  }
+
+  void expect(std::string_view bytes) { EXPECT_EQ(receive(literal(bytes).size()), bytes); }
+
+  bool isHungUp() {
+    char byte = 0;
+    return platform::receiveSome(mSocket, {&byte, 1}, kLongMs) <= 0;
+  }
+
+  void reset() { platform::resetOnClose(mSocket); }
+
+ private:
+  platform::Socket mSocket;
+};
+
+class Lines {
+ public:
+  std::function<void(const std::string&)> sink() {
+    return [this](const std::string& line) {
+      const std::lock_guard lock(mMutex);
+      mLines += line + '\n';
+      mChanged.notify_all();
+    };
+  }
+
+  bool waitFor(std::string_view text) {
+    std::unique_lock lock(mMutex);
+    return mChanged.wait_for(lock, kLong, [&] { return mLines.find(text) != std::string::npos; });
+  }
+
+ private:
+  std::mutex mMutex;
+  std::condition_variable mChanged;
+  std::string mLines;
+};
+
+Options keyed(std::string_view key) {
+  Options options;
+  options.key = parseKey(key).value();
+  return options;
+}
+
+Options faulty(std::initializer_list<std::string_view> faults, std::string_view key = "none") {
+  Options options = keyed(key);
+  for (const std::string_view fault : faults) options.faults.push_back(parseFault(fault).value());
+  return options;
+}
+
+struct Talk {
+  std::string_view key;
+  std::string_view request;
+  std::string_view reply;
+};
+
+// Computed with openssl and a separate checksum.
+constexpr Talk kTalks[] = {
+    {"none", kSetBrightness, kAccepted},
+    {"none", kGetVolume, kVolume50},
+    {"none", "AA FF FF 07 01 CC 89 08", "AA FF FF 08 00 CC 96 5B"},
+    {"none", "AA FF FF 01 CC 7D 80",
+     "AA FF FF 02 00 00 00 00 00 00 01 00 01 01 01 19 01 00 00 78 02 50 CC D5 68"},
+    {"none", "AA FF FF EF 0C 01 CC 5E C1", "AA FF FF EF 0C 01 00 CC 50 D4"},
+    {"des:12345678", "AA FF FF 07 4A EF E1 D4 6C AF CD 23 CC 49 4B",
+     "AA FF FF 08 DE EC BA 37 86 7B D1 42 CC A1 53"},
+    {"des:12345678", "AA FF FF 7E DE EC BA 37 86 7B D1 42 CC EF 94",
+     "AA FF FF 7F 4B 11 30 57 B8 35 AF 1D 79 89 B5 E6 5F BF 9A 9E CC 7B 42"},
+    {"des:12345678", kGetVolume, "AA FF FF A9 B9 9F 50 3F 02 23 61 E8 CC 05 2E"},
+    {"des:12345678", "AA FF FF EF 0C 01 CC 5E C1", "AA FF FF EF 0C 01 01 CC 88 CD"},
+    {"aes:12345678", "AA FF FF 07 48 62 2C E7 2E 5A 62 E3 F6 C6 30 F2 97 EC D2 84 CC 87 EE",
+     "AA FF FF 08 4B EF F6 33 C5 AD 79 50 20 68 F1 0A 8D E0 65 7E CC 79 20"},
+    {"aes:12345678", "AA FF FF EF 0C 01 CC 5E C1", "AA FF FF EF 0C 01 01 CC 88 CD"},
+    {"sm4:12345678", "AA FF FF 07 70 DA 41 E5 59 85 4F D0 E1 92 72 9F 4C BF F7 F3 CC 66 EF",
+     "AA FF FF 08 36 11 51 65 43 4C D6 0E E1 2D 06 4B C6 A6 9D 38 CC ED 4D"},
+    {"sm4:12345678", kGetVolume,
+     "AA FF FF A9 35 28 02 61 78 FA 1D E8 B5 11 B1 8A FB 05 25 C4 CC 22 E9"},
+};
+
+TEST(Simulator, AnswersByteForByte) {
+  for (const Talk& talk : kTalks) {
+    SCOPED_TRACE(std::string(talk.key) + " " + std::string(talk.request));
+    Simulator simulator(keyed(talk.key));
+    ASSERT_TRUE(simulator.start()) << simulator.error();
+    Host host(simulator.port());
+    host.send(talk.request);
+    host.expect(talk.reply);
+  }
+}
+
+TEST(Simulator, KeepsStateAcrossConnectionsAndBytesWithinThem) {
+  Simulator simulator({});
+  ASSERT_TRUE(simulator.start());
+  std::list<Host> hosts;
+  for (int i = 0; i < 50; ++i) hosts.emplace_back(simulator.port());
+
+  // Every host is inside a request of its own while the others speak.
+  for (Host& host : hosts) host.send("AA FF FF 45 07");
+  hosts.front().send("CC 97 EF");
+  hosts.front().expect("AA FF FF 46 01 CC 23 54");
+  EXPECT_EQ(simulator.state().volume, 7);
+  for (Host& host : hosts) {
+    if (&host == &hosts.front()) continue;
+    host.send("CC 97 EF");
+    host.expect("AA FF FF 46 01 CC 23 54");
+  }
+  hosts.back().send(kGetVolume);
+  hosts.back().expect("AA FF FF A9 07 CC 95 43");
+}
+
+TEST(Simulator, AnswersSeveralRequestsOfOneSegmentInOrder) {
+  Simulator simulator({});
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send("AA FF FF 45 07 CC 97 EF AA FF FF 00 00 CC 54 9D AA FF FF A9 CC 42 E1");
+  host.expect("AA FF FF 46 01 CC 23 54 AA FF FF A9 07 CC 95 43");
+  EXPECT_EQ(simulator.state().heartBeats, 1U);
+  EXPECT_EQ(simulator.exchanges(), 3U);
+}
+
+TEST(Simulator, SaysWhyThereIsNoAnswer) {
+  struct Case {
+    std::string_view key;
+    std::string_view request;
+    std::string_view line;
+  };
+  constexpr Case kCases[] = {
+      {"none", "AA FF FF 07 02 50 CC 38 4B",
+       "dropped: wrong checksum   AA FF FF 07 02 50 CC 38 4B"},
+      {"none", "AA FF FF 08 01 EE 00 CC 83 07", "dropped: bad escape"},
+      {"none", "47 45 54 20 2F", "dropped: bytes outside any frame   47 45 54 20 2F"},
+      {"none", "AA FF FF 60 CC F0 FC", "unknown command  0x60, 0 bytes  -> no reply"},
+      {"none", "AA FF FF EF CC F4 F3", "does not hold the command's 16-bit code"},
+      {"aes:12345678", kSetBrightness, "does not decipher with our key"},
+      {"des:87654321", "AA FF FF 07 4A EF E1 D4 6C AF CD 23 CC 49 4B", "does not decipher"},
+  };
+  for (const Case& one : kCases) {
+    Lines lines;
+    Options options = keyed(one.key);
+    options.onLine = lines.sink();
+    Simulator simulator(std::move(options));
+    ASSERT_TRUE(simulator.start());
+    Host host(simulator.port());
+    host.send(one.request);
+    EXPECT_TRUE(lines.waitFor(one.line)) << one.line;
+    host.send("AA FF FF EF 0C 01 CC 5E C1");  // is heard all the same
+    host.receive(10);
+    EXPECT_TRUE(lines.waitFor("getIsSecret"));
+  }
+}
+
+TEST(Simulator, SurvivesPeersThatVanish) {
+  Lines lines;
+  Options options;
+  options.onLine = lines.sink();
+  Simulator simulator(std::move(options));
+  ASSERT_TRUE(simulator.start());
+  {
+    Host host(simulator.port());
+    host.send("AA FF FF 07 02");
+  }
+  EXPECT_TRUE(lines.waitFor("hung up inside a frame, after 5 bytes"));
+  for (int i = 0; i < 20; ++i) {
+    Host host(simulator.port());
+    host.send(kSetBrightness);
+    host.reset();
+  }
+  Host host(simulator.port());
+  host.send(kGetVolume);
+  host.expect(kVolume50);
+}
+
+TEST(Simulator, LetsConnectionsWaitThatAreTooMany) {
+  Options options;
+  options.maxConnections = 1;
+  Simulator simulator(std::move(options));
+  ASSERT_TRUE(simulator.start());
+  auto first = std::make_unique<Host>(simulator.port());
+  first->send(kGetVolume);
+  first->expect(kVolume50);
+  Host second(simulator.port());
+  second.send(kGetVolume);
+  first->send(kGetVolume);
+  first->expect(kVolume50);
+  EXPECT_EQ(simulator.exchanges(), 2U);
+  first.reset();
+  second.expect(kVolume50);
+}
+
+TEST(Simulator, StopsAtOnceAndAgain) {
+  // With a host inside a frame, and a reply that is not due for minutes.
+  Simulator simulator(faulty({"late-reply=600000"}));
+  ASSERT_TRUE(simulator.start());
+  EXPECT_FALSE(simulator.start());
+  Host idle(simulator.port());
+  idle.send("AA FF FF 07");
+  Host waiting(simulator.port());
+  waiting.send(kGetVolume);
+  ASSERT_TRUE(simulator.waitForExchanges(1, kLong));
+  simulator.stop();
+  EXPECT_TRUE(waiting.isHungUp());
+  EXPECT_TRUE(idle.isHungUp());
+  EXPECT_TRUE(simulator.waitUntilFinished(milliseconds(0)));
+  simulator.stop();
+  Simulator neverStarted({});
+  neverStarted.stop();
+}
+
+TEST(Simulator, TellsThatThePortIsTaken) {
+  Simulator first({});
+  ASSERT_TRUE(first.start());
+  Options options;
+  options.listen.port = first.port();
+  Simulator second(std::move(options));
+  EXPECT_FALSE(second.start());
+  EXPECT_EQ(second.error().rfind("cannot listen on 127.0.0.1:" + std::to_string(first.port()), 0),
+            0U);
+}
+
+TEST(Simulator, EndsAtItsExchangeLimitAfterTheReply) {
+  Options options = faulty({"late-reply=20"});
+  options.exchangeLimit = 2;
+  Simulator simulator(std::move(options));
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send(kGetVolume);
+  host.expect(kVolume50);
+  host.send(kSetBrightness);
+  host.expect(kAccepted);
+  EXPECT_TRUE(host.isHungUp());
+  EXPECT_TRUE(simulator.waitUntilFinished(kLong));
+  EXPECT_EQ(simulator.exchanges(), 2U);
+}
+
+TEST(Simulator, DialsAWaitingHost) {
+  const platform::Socket listener = platform::listenOn("127.0.0.1", 0);
+  Options options;
+  options.dial = Endpoint{"127.0.0.1", platform::localPort(listener)};
+  Simulator simulator(options);
+  ASSERT_TRUE(simulator.start()) << simulator.error();
+  {
+    platform::Watched watched{listener, false};
+    ASSERT_TRUE(platform::waitReadable({&watched, 1}, kLongMs));
+    Host host(platform::acceptOne(listener));
+    host.send(kGetVolume);
+    host.expect(kVolume50);
+    host.send(kSetBrightness);
+    host.expect(kAccepted);
+  }
+  EXPECT_TRUE(simulator.waitUntilFinished(kLong));
+  platform::closeSocket(listener);
+
+  Simulator nobodyThere(options);
+  EXPECT_FALSE(nobodyThere.start());
+  EXPECT_FALSE(nobodyThere.error().empty());
+}
+
+struct Misbehaviour {
+  std::string_view fault;
+  std::string_view key;
+  std::string_view bytes;  // in answer to setBrightness
+  bool hangsUp;
+};
+
+constexpr std::string_view kSetBrightnessSm4 =
+    "AA FF FF 07 70 DA 41 E5 59 85 4F D0 E1 92 72 9F 4C BF F7 F3 CC 66 EF";
+
+constexpr Misbehaviour kMisbehaviours[] = {
+    {"late-reply=1", "none", kAccepted, false},
+    {"pieces=3", "none", kAccepted, false},
+    {"two-replies", "none", "AA FF FF 08 01 CC 4E 42 AA FF FF 08 01 CC 4E 42", false},
+    {"wrong-checksum", "none", "AA FF FF 08 01 CC B1 BD", false},
+    {"bad-escape", "none", "AA FF FF 08 01 EE 00 CC 83 07", false},
+    {"wrong-command", "none", "AA FF FF 48 01 CC 38 44", false},
+    {"garbage", "none", "00 11 22 33 44 55 66 77 AA FF FF 08 01 CC 4E 42", false},
+    {"refuse", "none", "AA FF FF 08 00 CC 96 5B", false},
+    {"wrong-key", "none", "AA FF FF 08 94 11 A4 92 FE 0F 37 C0 CC 67 08", false},
+    {"wrong-key", "sm4:12345678",
+     "AA FF FF 08 E8 C7 D7 68 9B 01 08 6A 31 3A E7 AF CA E2 1D 30 CC 6D CA", false},
+    {"close-before", "none", "", true},
+    {"reset", "none", "", true},
+    {"close-inside", "none", "AA FF FF 08", true},
+    {"close-after", "none", kAccepted, true},
+};
+
+TEST(Faults, ShowOnTheWireForAsLongAsTold) {
+  for (const Misbehaviour& one : kMisbehaviours) {
+    SCOPED_TRACE(one.fault);
+    const bool plain = one.key == "none";
+    Simulator simulator(faulty({std::string(one.fault) + ":1"}, one.key));
+    ASSERT_TRUE(simulator.start());
+    Host host(simulator.port());
+    host.send(plain ? kSetBrightness : kSetBrightnessSm4);
+    host.expect(one.bytes);
+    if (one.hangsUp) {
+      EXPECT_TRUE(host.isHungUp());
+    }
+
+    Host next(simulator.port());
+    (one.hangsUp ? next : host).send("AA FF FF EF 0C 01 CC 5E C1");
+    (one.hangsUp ? next : host)
+        .expect(plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
+  }
+}
+
+TEST(Faults, TakeTurnsAndSpareWhatHasNoReply) {
+  Simulator simulator(faulty({"no-reply:2", "refuse"}));
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send("AA FF FF A9 CC 42 E1 AA FF FF 00 00 CC 54 9D AA FF FF 45 07 CC 97 EF");
+  ASSERT_TRUE(simulator.waitForExchanges(3, kLong));
+  EXPECT_EQ(simulator.state().volume, 7);  // done, though not answered
+  for (int i = 0; i < 2; ++i) {
+    host.send(kSetBrightness);
+    host.expect("AA FF FF 08 00 CC 96 5B");
+  }
+}
+
+TEST(Faults, PutTheReplyOffOrApart) {
+  const Fault late = parseFault("late-reply=1500").value();
+  const std::vector<Step> once = deliver(late, {{1, 2}, {3}});
+  ASSERT_EQ(once.size(), 2U);
+  EXPECT_EQ(once[0].delayMs, 1500);
+  EXPECT_EQ(once[1].delayMs, 0);
+
+  const std::vector<Step> pieces = deliver(parseFault("pieces=3"), {{1, 2, 3}, {4, 5, 6, 7}});
+  ASSERT_EQ(pieces.size(), 3U);
+  EXPECT_EQ(pieces[0].bytes, (Bytes{1, 2}));
+  EXPECT_EQ(pieces[1].bytes, (Bytes{3, 4}));
+  EXPECT_EQ(pieces[2].bytes, (Bytes{5, 6, 7}));
+  EXPECT_GT(pieces[1].delayMs, 0);
+  EXPECT_EQ(deliver(parseFault("pieces=1000"), {{1, 2, 3}}).size(), 3U);
+  EXPECT_TRUE(deliver(parseFault("close-inside"), {}).empty());
+}
+
+TEST(Faults, AreRefusedUnlessWhole) {
+  EXPECT_EQ(parseFault("pieces").value().value, 2);
+  EXPECT_FALSE(parseFault("reset").value().count);
+  for (const char* text :
+       {"", "nothing", "no-reply:", "no-reply:0", "no-reply:-1", "no-reply:2x", "no-reply=5",
+        "pieces=0", "pieces=", "pieces=1001", "late-reply=2:", "no-reply:99999999999"}) {
+    EXPECT_FALSE(parseFault(text)) << text;
+  }
+}
+
+TEST(Endpoint, IsADottedAddressAndAPort) {
+  EXPECT_EQ(endpointText(parseEndpoint("localhost:0").value()), "127.0.0.1:0");
+  EXPECT_EQ(endpointText(parseEndpoint("192.168.1.10:65535").value()), "192.168.1.10:65535");
+  for (const char* text : {"", ":", "127.0.0.1", "127.0.0.1:", ":5005", "127.0.0.1:65536",
+                           "127.0.0.1:-1", "127.0.0.1:5x", "127.0.0.256:1", "127.0.1:1",
+                           "1.2.3.4.5:1", "127.0.0.01:1", "sign.example:1"}) {
+    EXPECT_FALSE(parseEndpoint(text)) << text;
+  }
+}
+
+}  // namespace
+}  // namespace tovi::sim
