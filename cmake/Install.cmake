@@ -10,7 +10,7 @@ install(TARGETS tovisdk tovisdk_static EXPORT tovisdk-targets
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tovisdk ${PROJECT_BINARY_DIR}/include/tovisdk
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 if(TOVISDK_TOOLS)
-  install(TARGETS tovisim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS tovi tovisim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
 install(EXPORT tovisdk-targets NAMESPACE tovisdk:: DESTINATION ${package_folder})
