@@ -6,11 +6,15 @@
 #include <tovisdk/export.h>
 
 #include <cstdint>
+#include <ctime>
+#include <functional>
+#include <list>
 #include <string>
 
 #include <tovisdk/device_type.h>
 #include <tovisdk/outcome.h>
 #include <tovisdk/protocal_parser.h>
+#include <tovisdk/records.h>
 #include <tovisdk/socket_result.h>
 
 namespace tovi::device {
@@ -100,17 +104,86 @@ class TOVISDK_API ToviTraffic {
   void clearPassword();
 
   /// @}
-  /// @name Power, brightness and volume
+  /// @name The controller's secure mode
+  /// @{
+
+  /// Whether the controller expects enciphered traffic. Command 0x010C, no payload; plain in both
+  /// directions whatever key is set.
+  /// @return 1 secure, 0 not, -1 no reply
+  int getIsSecret();
+
+  /// Sets the controller's key. Command 0x0103; payload: the text, enciphered like any other.
+  /// @return whether the controller accepted
+  bool setDeviceKey(const std::string& key);
+
+  /// Configures secure mode. Command 0x70, reply 0x71, always plain; payload: mode, enable (1 or
+  /// 0), the label, 0x91 0x21, the key when mode is not 0, and with includeSecondKey 0x91 0x21 and
+  /// secondKey. Once accepted, the next reply is deciphered with the keys that are set then.
+  /// @return 1, -11, -12, -14, or -15 when label is not 1 to 16 characters or a key that is sent
+  /// not 8
+  int setDeviceSecretParam(DeviceSecretParam param, bool includeSecondKey);
+
+  /// @}
+  /// @name Power and relays
   /// @{
 
   /// Switches the screen on or off. Command 0x05, reply 0x06; payload 1 byte: 1 on, 2 off.
   /// @return 1, -11, -12 or -14
   int setPower(bool on);
 
+  /// Switches the board. Command 0x84, reply 0x85; payload 1 byte: 1 on, 2 off.
+  /// @return 1, -11, -12 or -14
+  int setBoardPower(bool on);
+
+  /// Switches board and screen. Command 0x25, reply 0x26; payload 1 byte: 1 on, 0 off (not 2).
+  /// @return 1, -11, -12 or -14
+  int setBoardPowerAndScreenPower(bool on);
+
+  /// Switches the multi-function card. Command 0x86, reply 0x87; payload: low bytes of a and b,
+  /// then c as 1 or 0.
+  /// @return 1, -11, -12 or -14
+  int setMultiFunctionCardPower(int a, int b, bool c);
+
+  /// Switches the four relays. Command and reply 0x9E; payload 4 bytes: 1 on, 2 off each.
+  /// @return 1, -11, -12 or -14
+  int setRelayPowers(bool relay1, bool relay2, bool relay3, bool relay4);
+
+  /// Whether the power is on. Command 0x0114, no payload.
+  /// @return 1 on, 0 off, -1 no reply
+  int getPowerState();
+
+  /// Whether the screen is on. Command and reply 0xBA, no payload; reply byte 1.
+  /// @return 1 on, 2 off, -1 no usable reply
+  int getScreenStatus();
+
+  /// @}
+  /// @name Brightness and volume
+  /// @{
+
   /// Sets the brightness by hand. Command 0x07, reply 0x08; payload 2 bytes: 2 (manual), level.
   /// @param level 0 to 255; any other value is sent as 125
   /// @return 1, -11, -12 or -14
   int setBrightness(int level);
+
+  /// Mode and level. Command and reply 0xC3, no payload; reply byte 1 mode (signed), byte 2 level.
+  /// @return -1, -1 without a usable reply
+  BrightnessInfo getBrightnessInfo();
+
+  /// Switches to automatic brightness (command 0x07, payload 01 00), then sets its curve: command
+  /// 0x17, reply 0x18; payload 24 bytes, of each point the ambient and the screen brightness and a
+  /// zero.
+  /// @param item the caller's own; null is refused
+  /// @return 1, -11, -12 or -14 of the step that failed, or -15
+  int setBrightnessAuto(BrightnessItem* item);
+
+  /// The automatic brightness curve. Command 0x2B, reply 0x2C, no payload; exactly 25 bytes, point
+  /// k in bytes 3k + 1 and 3k + 2.
+  /// @return a new record that the caller releases; null without such a reply
+  BrightnessItem* getBrightnessAuto();
+
+  /// Passes the two bytes on. Command and reply 0xAA.
+  /// @return whether the controller accepted; false, with nothing sent, when either is 0
+  bool setAutoBrightnessTimeParam(char first, char second);
 
   /// Sets the volume. Command 0x45, reply 0x46; payload 1 byte.
   /// @param volume 0 to 255; the low byte of any other value is sent
@@ -120,6 +193,164 @@ class TOVISDK_API ToviTraffic {
   /// Reads the volume. Command and reply 0xA9, no payload; reply byte 1.
   /// @return the volume as a byte, to be read as unsigned 0 to 255; 0xFF without a usable reply
   char getVolumeValue();
+
+  /// @}
+  /// @name Timetables
+  /// A list goes out as its count in one byte, then its entries: day, month, year (2 bytes, low
+  /// byte first), second, minute, hour of the start, the same of the end, then what the timetable
+  /// adds. Keep lists below 256 entries. Fields are sent as they stand: year and month are calendar
+  /// values.
+  ///
+  /// Getters give a new list that the caller releases, or null when no reply of at least 2 bytes
+  /// came; an entry that the reply does not hold whole ends the list. There, years count from 1900
+  /// and months from 0.
+  /// @{
+
+  /// When the screen has power. Command 0x8A, reply 0x8B; entries of 14 bytes.
+  /// @return 1, -11, -12 or -14
+  int setDevicePowerByTimeList(std::list<DevicePowerByTimeParam> list);
+  /// Command and reply 0x52, no payload.
+  std::list<DevicePowerByTimeParam>* getDevicePowerByTimeList();
+
+  /// Which program plays when. Command 0x41, reply 0x42; entries of 16 bytes: playId's low byte and
+  /// a zero.
+  /// @return 1, -11, -12 or -14
+  int setPlayByTimeList(std::list<PlayByTimeParam> list);
+  /// Command and reply 0x53, no payload.
+  std::list<PlayByTimeParam>* getPlayByTimeList();
+
+  /// Switches to brightness by timetable (command 0x07, payload 03 00), then sets it: command 0x43,
+  /// reply 0x44; entries of 15 bytes: the brightness.
+  /// @return 1, -11, -12 or -14 of the step that failed
+  int setBrightnessByTimeList(std::list<BrightnessByTimeParam> list);
+  /// Command and reply 0x51, no payload.
+  std::list<BrightnessByTimeParam>* getBrightnessByTimeList();
+
+  /// Sets the advance timing. Command and reply 0xDC; payload: the text, at most 4096 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setAdvanceTiming(const std::string& timing);
+  /// The advance timing. Command and reply 0xDD; payload 01; text from byte 2 when byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getAdvanceTiming();
+  /// Removes the advance timing. Command and reply 0xDE; payload 01.
+  /// @return 1, -11, -12 or -14
+  int removeAdvanceTiming();
+
+  /// @}
+  /// @name Clock
+  /// @{
+
+  /// Sets the clock. Command 0x09, reply 0x0A; payload 7 bytes: year (tm_year + 1900, low byte
+  /// first), month (tm_mon + 1), day, hour, minute, second.
+  /// @param time the caller's own; null is refused
+  /// @return 1, -11, -12, -14 or -15
+  int setTime(std::tm* time);
+
+  /// Sets clock and time zone. Command and reply 0x95; payload: the text "time,zoneId,utcOffset",
+  /// which ends at its first white space.
+  /// @return 1, -11, -12 or -14
+  int setTimeAndTimeZone(TimeZoneParam param);
+
+  /// Clock and time zone. Command and reply 0x96, no payload; text from byte 1.
+  /// @return a new record that the caller releases; null without a reply of three parts
+  TimeZoneParam* getTimeAndTimeZone();
+
+  /// Sets time synchronisation. Command and reply 0x97; payload: 1 or 0, then the server text.
+  /// @return 1, -11, -12 or -14
+  int setDeviceNTPParam(DeviceNTPParam param);
+
+  /// Time synchronisation. Command and reply 0x98, no payload; at least 3 bytes: byte 1 the flag,
+  /// text from byte 2.
+  /// @return a new record that the caller releases; null without a usable reply
+  DeviceNTPParam* getDeviceNTPParam();
+
+  /// @}
+  /// @name Display and video
+  /// Settings travel as JSON. Replies are accepted when longer than 2 bytes with byte 1 equal to 1;
+  /// their JSON stands from byte 2 on. Without an accepted reply every field is 0 or empty.
+  /// @{
+
+  /// Sets the output resolution, in pixels and Hz. Command and reply 0xA5; payload
+  /// {"displayMode":1,"width":…,"height":…,"refreshRate":…}.
+  /// @return 1, -11, -12 or -14
+  int setCustomResolution(int width, int height, int refreshRate);
+  /// The output resolution. Command and reply 0xA6, no payload; member "value".
+  ResolutionInfo getCurrentResolution();
+
+  /// Sets the EDID timing. Command and reply 0xA4; payload {"fieldRate":…,"width":…,"height":…}.
+  /// @return 1, -11, -12 or -14
+  int setEdidInfo(EdidInfo info);
+  /// The EDID timing. Command and reply 0xA2, no payload.
+  EdidInfo getEdidInfo();
+
+  /// Selects the video source. Command and reply 0xA3; payload
+  /// {"isScale":"false","offsetX":0,"offsetY":0,"videoMode":1,"videoSource":…}.
+  /// @return 1, -11, -12 or -14
+  int setVideoControlInfo(int videoSource);
+  /// The video source. Command and reply 0xA1, no payload.
+  VideoControlInfo getVideoControlInfo();
+  /// The sources to choose from. Command and reply 0xE7, no payload; text from byte 2 when byte 1
+  /// is 1.
+  /// @return empty without a usable reply
+  std::string getSupportVideoSource();
+
+  /// Size of the display in pixels. Command 0x82, reply 0x83, no payload; bytes 1-2 width, 3-4
+  /// height, low byte first.
+  /// @return -1, -1 without a usable reply
+  DeviceSize getDeviceSize();
+
+  /// Smooths texts, by three flags. Command 0xE5; payload 3 bytes: 1 or 0; no reply is awaited.
+  void setAntiAliasing(bool first, bool second, bool third);
+  /// The three flags. Command and reply 0xE6, no payload; bytes 1 to 3, 1 is true.
+  /// @return all false without a reply of at least 4 bytes
+  TextAttr getAntiAliasing();
+
+  /// Whether controllers play in step. Command and reply 0xBC; payload 1 or 0.
+  /// @return whether the controller accepted
+  bool setSyncPlay(bool on);
+  /// Whether the controller acknowledges the question. Command and reply 0xBD, no payload. It tells
+  /// nothing of a stored state.
+  bool getSyncPlay();
+
+  /// The pre-stored screen. Command 0x0112; payload 01 and 1 or 0.
+  /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
+  int setPreStoredScreenEnabled(bool on);
+  /// Command 0x0112; payload 00; reply bytes 3 and 4, signed.
+  /// @return first -1 without a reply longer than 4 bytes
+  PreStoredScreenEnabled getPreStoredScreenEnabled();
+
+  /// Fonts on the controller. Command and reply 0xD1, no payload; text from byte 2 when byte 1
+  /// is 1.
+  /// @return empty without a usable reply
+  std::string getFontList();
+  /// Command and reply 0xD2; payload: the text, at most 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setFont(const std::string& font);
+
+  /// Looks for broken pixels. Command 0x0B, reply 0x0C, no payload; at least 6 bytes and byte 1
+  /// equal to 1: bytes 2-5 their number, low byte first.
+  /// @return 0, 0 without such a reply
+  ScreenPointDetect startScreenPointDetect();
+
+  /// Looks for broken pixels and fetches what was found. Commands 0x0B (reply 0x0C), then 0x36
+  /// (replies 0x37) on one connection; the first reply's bytes 2-3 tell how many parts follow, at
+  /// most 4096 are taken.
+  /// @return the parts' payloads one after another; empty when none came
+  std::string getDetectErrorPointInfo();
+
+  /// @}
+  /// @name What is playing
+  /// @{
+
+  /// The item on screen. Command 0x2D, reply 0x2E, no payload; more than 3 bytes: byte 1 running
+  /// (1), byte 3 identifier (signed), text from byte 4.
+  /// @return a new object that the caller releases; null without a usable reply
+  DeviceNowPlayItem* getNowPlayContent();
+
+  /// The whole program. Command 0x3A, reply 0x3B, no payload; more than 1 byte: byte 1 identifier
+  /// (signed), text from byte 2.
+  /// @return a new object that the caller releases; null without a usable reply
+  DeviceNowPlayList* getNowPlayAllContent();
 
   /// @}
   /// @name Identity and status
@@ -146,6 +377,11 @@ class TOVISDK_API ToviTraffic {
   /// @return the text; empty when no reply came
   std::string getSn();
 
+  /// Reads the MAC address. Command and reply 0xB3, no payload; exactly 7 bytes.
+  /// @return bytes 1 to 6 in lower-case hexadecimal without leading zeros, ":" between, as in
+  ///         "0:1a:b:0:ff:5"; empty without such a reply
+  std::string getMac();
+
   /// Reads the status block. Command 0x01, reply 0x02, no payload; the reply must have exactly 19
   /// bytes: 7 date value, 8 door (1 open), 9 screen power (1 on), 10 screen state (signed), 11
   /// temperature sign (1 positive), 12 degrees (signed), 13 input (1 internal), 16 ambient
@@ -153,6 +389,202 @@ class TOVISDK_API ToviTraffic {
   /// @return a new object that the caller deletes, or releases with deleteObj; null without such a
   ///         reply
   DeviceType* getDeviceType();
+
+  /// Memory, as the controller counts it. Command 0x47, reply 0x48, no payload; bytes 1-4 total,
+  /// 5-8 free, low byte first.
+  /// @return -1, -1 without a usable reply
+  DeviceMemorySize getDeviceMemorySize();
+
+  /// Processor and storage. Command and reply 0xAF, no payload; byte 1 is 1, JSON from byte 2 with
+  /// "cpuUsage", "diskTotal" and "diskFree".
+  CpuAndMemoryInfo getCpuAndMemoryInfo();
+
+  /// @}
+  /// @name Texts of the controller
+  /// Queries with no payload whose reply is accepted when byte 1 is 1 (8-bit commands; text from
+  /// byte 2) or byte 2 is 1 (16-bit commands; text from byte 3). Empty without a usable reply.
+  /// @{
+  std::string getSurveil();        ///< command 0xA0
+  std::string getSystemInfo();     ///< command 0xC2
+  std::string getSensorInfo();     ///< command 0xC7
+  std::string getMobileInfo();     ///< command 0xC9
+  std::string getWifiList();       ///< command 0xCE
+  std::string getWifiApConfig();   ///< command 0xC4
+  std::string getPingIp();         ///< command 0x0102
+  std::string getSimInfo();        ///< command 0x0108
+  std::string getWhitelist();      ///< command 0x0109
+  std::string getServerIPLists();  ///< command 0x010E
+  std::string getLogZipPath();     ///< command 0x010F; a reply of up to 120000 bytes per read
+
+  /// The same from command 0xD6, with the acceptance beside the text.
+  ResultParam getLoraInfo();
+  /// @}
+  /// @name Networks and sensors
+  /// Settings whose payload is the text as it stands.
+  /// @{
+
+  /// Whether the wireless client is on. Command and reply 0xCB; payload 1 or 0.
+  bool setWifiState(bool on);
+  /// Command and reply 0xCA, no payload.
+  /// @return reply byte 1, signed; -1 without a usable reply
+  int getWifiState();
+  /// Whether the access point is on. Command and reply 0xC5; payload 1 or 0.
+  /// @return 1, -11, -12 or -14
+  int setWifiApState(bool on);
+  /// Command and reply 0x9B, no payload.
+  /// @return reply byte 1, signed; -1 without a usable reply
+  int getWifiApState();
+
+  /// @name
+  /// @return 1, -11, -12, -14, or -15 for a text that is too long
+  /// @{
+  int connectWifi(const std::string& connection);     ///< command 0xCF, at most 1024 bytes
+  int setWifiApConfig(const std::string& config);     ///< command 0xC6, at most 1024 bytes
+  int setLoraInfo(const std::string& info);           ///< command 0xD7, at most 4096 bytes
+  int setSensorInfo(const std::string& info);         ///< command 0xC8, at most 4096 bytes
+  int removeAppPageName(const std::string& package);  ///< command 0x9F, 1 to 256 bytes
+  /// @}
+
+  /// @name
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  /// @{
+  int setPingIp(const std::string& address);       ///< command 0x0101
+  int addWhitelist(const std::string& entry);      ///< command 0x010A
+  int removeWhitelist(const std::string& entry);   ///< command 0x010B
+  int setServerIPLists(const std::string& lists);  ///< command 0x010D
+  /// @}
+
+  /// Changes to the software SIM. Command 0x0105, no payload.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int switchToSoftsim();
+
+  /// Sets the network addresses. Command 0x19; payload 26 bytes: ip, netmask and gateway (4 bytes
+  /// each, first field first), port (low byte first), server, zeros; no reply is awaited.
+  void setDeviceNetBasicParam(DeviceNetBasicParam param);
+
+  /// Back to the factory's addresses. Command 0x21, no payload; no reply is awaited.
+  void resetDeviceIpToDefault();
+
+  /// Keeps a connection. Command 0xF3, reply 0xF4; payload 4 bytes: 1 or 0, interval (low byte
+  /// first), low byte of value.
+  /// @param interval below 60 is sent as 60
+  /// @return 1, -11, -12 or -14
+  int setVirtualConnection(bool on, int interval, int value);
+  /// Command and reply 0xD3, no payload; at least 5 bytes: flag, interval (bytes 2-3), value.
+  /// @return false, -1, -1 without a usable reply
+  VirtualParam getVirtualConnection();
+
+  /// Sets the radio's road. Command and reply 0x99; payload: of each character its distance to "0".
+  /// @return 1, -11, -12, -14, or -15 for a text of more than 65517 bytes
+  int setRDSRoad(const std::string& digits);
+  /// Command and reply 0x9A; payload 01. Every byte of the reply, the command byte too, is shown as
+  /// a character after "0".
+  /// @return empty without a usable reply
+  std::string getRDSRoad();
+
+  /// @}
+  /// @name Files
+  /// A transfer uses one connection: the name is announced, the bytes follow in numbered chunks,
+  /// each acknowledged, and the controller confirms the end. The first step that fails ends it;
+  /// nothing is retried, and the connection and the file are closed on every path.
+  /// @{
+
+  static constexpr int FILE_NAME_NO_REPLY = -3;
+  static constexpr int FILE_NAME_REJECTED = -4;
+  static constexpr int CONTENT_NO_REPLY = -5;
+  static constexpr int CONTENT_REJECTED = -6;
+  static constexpr int FILE_END_NO_REPLY = -7;
+  static constexpr int FILE_END_REJECTED = -8;
+  static constexpr int PLAY_ID_NO_REPLY = -9;
+  static constexpr int PLAY_ID_REJECTED = -10;
+  static constexpr int LOCAL_FILE_ERROR = -13;
+  static constexpr int STOPPED_BY_HOST = -16;
+
+  /// Hears of a transfer's progress after each chunk: bytes acknowledged, and bytes in all. False
+  /// stops the transfer before the next chunk.
+  using Progress = std::function<bool(long long sent, long long total)>;
+
+  /// Sends a file. Commands 0x11 (name, after 0xFF 0xFF), 0x13 (chunk number from 1, low byte
+  /// first, and up to 65535 bytes, or 65517 while a key is set); replies 0x12, 0x14 and at last
+  /// 0xF9.
+  /// @param path the local file, in the local code page
+  /// @param name the name under which the controller stores it
+  /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk; -7,
+  /// -8 the
+  ///         end; -13 the file cannot be opened or read; -15 a null argument or a name of more than
+  ///         65515 bytes
+  int sendFile(const char* path, const char* name);
+  /// The same, told to the host as it goes.
+  /// @return as above, and -16 when the host stopped it
+  int sendFile(const char* path, const char* name, const Progress& progress);
+
+  /// Uploads a playlist as "playNNN.lst" and plays it: the steps of sendFile with the text as one
+  /// chunk, then command 0x1B, reply 0x1C with the number's low byte.
+  /// @param number above 999 it is taken modulo 999
+  /// @param text zero-terminated, sent as it is
+  /// @return 1; -14 no connection; -3 to -8 as sendFile; -9, -10 playing was not answered or
+  /// refused; -15
+  ///         for null or a text of more than 65515 bytes
+  int sendPlayList(int number, const char* text);
+
+  /// Plays a playlist. Command 0x1B, reply 0x1C; payload 1 byte: the number.
+  /// @return 1, -11, -12 or -14
+  int playListById(int number);
+
+  /// Deletes a playlist. Command and reply 0xAE; payload 1 byte: the number.
+  /// @return whether the controller accepted
+  bool deletePlaylistById(int number);
+
+  /// The playlists on the controller. Command and reply 0xA7, no payload; a signed byte each from
+  /// byte 1.
+  /// @return empty without a usable reply
+  std::list<int> getAllPlaylistId();
+
+  /// Names of all media on the controller. Command and reply 0xB0, no payload; byte 1 is 1, a JSON
+  /// array of texts from byte 2.
+  /// @return empty without a usable reply
+  std::list<std::string> getAllMediaFileName();
+  /// Names of the files of one type. Command and reply 0xB9; payload 1 byte: the type; reply as
+  /// above.
+  std::list<std::string> getFileListName(char type);
+
+  /// Updates from a local path on the controller. Command 0x88, reply 0x89; payload 01, low byte of
+  /// the type, the text.
+  /// @return 1, -11, -12, -14, or -15 for null or a text of more than 65515 bytes
+  int sendLocalUpdate(int type, const char* text);
+  /// The same for trial; payload: low byte of the type, FE, the text.
+  int sendTestLocalUpdate(int type, const char* text);
+  /// Removes an update. Command 0x88, reply 0x89; payload 00, low byte of the type.
+  /// @return 1, -11, -12 or -14
+  int removeLocalUpdate(int type);
+
+  /// Tells where to download from. Command 0x49, reply 0x50; payload: the text, 1 to 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for any other length
+  int sendFtpDownloadaddress(const std::string& address);
+  /// Names the update. Command 0x90, reply 0x91; payload: the text, 1 to 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for any other length
+  int updateFileName(const std::string& name);
+
+  /// Lets the controller download files and waits until it is done. Command and reply 0xAB;
+  /// payload: the list, a JSON array. Replies of status 2 mean that it goes on.
+  /// @return whether status 1 came; false for a list of more than 65517 bytes
+  bool downloadFiles(const std::string& list);
+
+  /// Cleans up storage. Command 0x7C, reply 0x7D; payload 1 byte.
+  /// @param type 0 to 3; any other value is sent as 1
+  /// @return 1, -11, -12 or -14
+  int cleanUpFiles(int type);
+
+  /// Empties the cache. Command 0x0115, no payload.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int clearCache();
+
+  /// Fetches a picture of the screen. Command 0x80 with payload FF FF, reply 0x81; the picture
+  /// stands from byte 3 on, in pieces of 65535 bytes until a shorter one, at most 4096 pieces.
+  /// @param path the local file, emptied first; a transfer that fails leaves it empty or cut short
+  /// @return 1; -15 when path is empty or cannot be made; -1 no connection; -11 when a piece did
+  /// not come
+  int getDeviceScreenshot(std::string path);
 
   /// @}
   /// @name Maintenance
@@ -165,6 +597,33 @@ class TOVISDK_API ToviTraffic {
   /// Tells the controller that the host is there. Command 0x00; payload 1 byte: 0; no reply is
   /// awaited.
   void sendHeartBeat();
+
+  /// Sets the temperature at which the screen closes. Command 0x15, reply 0x16; payload 6 bytes,
+  /// the last is the temperature.
+  /// @param temperature 0 to 150 degrees
+  /// @return 1, -11, -12, -14, or -15 for any other value
+  int setCloseScreenTemperature(int temperature);
+  /// Command 0x29, reply 0x2A, no payload; reply byte 6.
+  /// @return degrees, signed; -1 without a reply, -11 when it has 6 bytes or fewer
+  int getCloseScreenTemperature();
+
+  /// Makes settings permanent. Command 0x0113; payload 1 byte.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int solidify(unsigned char value);
+
+  /// Makes a backup. Command 0x0111; payload 01.
+  /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
+  int backups();
+  /// Command 0x0111; payload 00.
+  /// @return a new record that the caller releases; never null
+  BackUpsInfo* getBackupsTimes();
+
+  /// Remote shell access. Command 0x0110; payload 01 and 1 or 0.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int setSSHEnabled(bool on);
+  /// Command 0x0110; payload 00; byte 2 must be 0, byte 3 is the flag.
+  /// @return 1 on, 0 off, -1 without a usable reply
+  int getSSHEnabled();
 
   /// @}
 
@@ -197,9 +656,18 @@ class TOVISDK_API ToviTraffic {
   SocketResult* getData(std::uint64_t socket, short what, short rspWhat, char* data, int len,
                         int bufSize);
   SocketResult* getBigData(short what, short rspWhat, char* data, int len);
+  SocketResult* getDetectErrorPointData(std::uint64_t socket, char what, char rspWhat,
+                                        char partWhat, char* data, int len, int bufSize = BIG_SIZE);
   char* sendAndReceive(std::uint64_t socket, short what, short rspWhat, char* data, int len,
                        int bufSize, int* outLen);
   SocketResult* newResult(char* package, int len);
+
+  int sendFileName(std::uint64_t socket, const char* name, int len);
+  int sendFileContent(std::uint64_t socket, const char* path, int chunkSize, int* lastLen,
+                      int* nextNumber);
+  int sendContent(std::uint64_t socket, const char* data, int len, int number);
+  int recvFileOverRsp(std::uint64_t socket);
+  int sendPlayId(std::uint64_t socket, int number);
 
   char* mIp;
   unsigned short mPort;

@@ -7,9 +7,11 @@
 
 #include <tovisdk/device_type.h>
 #include <tovisdk/outcome.h>
+#include <tovisdk/records.h>
 #include <tovisdk/socket_result.h>
 
 #include <tovisdk/codec.h>
+#include <tovisdk/files.h>
 #include <tovisdk/log.h>
 #include <tovisdk/packet.h>
 #include <tovisdk/protocal_parser.h>

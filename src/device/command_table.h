@@ -10,10 +10,11 @@ namespace tovi::device {
 
 // How a command's exchange goes.
 enum class Exchange {
-  Set,     // one request; a status byte answers
-  Get,     // one request; the reply fits the ordinary receive buffer
-  GetBig,  // one request; the reply wants the 4096-byte receive buffer
-  Step,    // one step of an operation that takes several on one connection
+  Set,      // one request; a status byte answers
+  Get,      // one request; the reply fits the ordinary receive buffer
+  GetBig,   // one request; the reply wants the 4096-byte receive buffer
+  GetHuge,  // one request; the reply wants room for a long link
+  Step,     // one step of an operation that takes several on one connection
 };
 
 inline constexpr std::uint16_t kNoReply = 0xFF;      // reply code of commands that await no reply
@@ -135,7 +136,7 @@ inline constexpr Command kCommands[] = {
     {"getIsSecret", Exchange::Get, 0x10C, 0x10C},
     {"setServerIPLists", Exchange::Get, 0x10D, 0x10D},
     {"getServerIPLists", Exchange::Get, 0x10E, 0x10E},
-    {"getLogZipPath", Exchange::Get, 0x10F, 0x10F},
+    {"getLogZipPath", Exchange::GetHuge, 0x10F, 0x10F},
     {"setSSHEnabled", Exchange::Get, 0x110, 0x110},
     {"getSSHEnabled", Exchange::Get, 0x110, 0x110},
     {"backups", Exchange::Get, 0x111, 0x111},

@@ -33,9 +33,3 @@ int DeviceType::getBrightnessType() const { return brightnessType; }
 
 void DeviceType::setScreenBrightness(int brightness) { screenBrightness = brightness; }
 int DeviceType::getScreenBrightness() const { return screenBrightness; }
-
-void deleteObj(DeviceType** object) {
-  if (object == nullptr) return;
-  delete *object;
-  *object = nullptr;
-}

@@ -4,6 +4,23 @@
 #include "foundation/log.h"
 
 namespace tovi::device {
+namespace {
+
+// A download link to a log archive may be long.
+constexpr int kLogPathBuffer = 120000;
+
+int bufferSize(const Command& command) {
+  switch (command.exchange) {
+    case Exchange::GetBig:
+      return ToviTraffic::BIG_SIZE;
+    case Exchange::GetHuge:
+      return kLogPathBuffer;
+    default:
+      return ToviTraffic::TEMP_SIZE;
+  }
+}
+
+}  // namespace
 
 std::string bytes(std::initializer_list<int> values) {
   std::string payload;
@@ -16,25 +33,60 @@ Operation::Operation(ToviTraffic& traffic, const Command& command)
   log::info("%s start", mCommand.method.data());
 }
 
-int Operation::set(std::string payload) {
-  return mTraffic.normalSet(static_cast<char>(mCommand.request), static_cast<char>(mCommand.reply),
+int Operation::set(std::string payload) { return step(mCommand, std::move(payload)); }
+
+int Operation::step(const Command& command, std::string payload) {
+  if (!fits(payload)) return ToviTraffic::ARGUMENT_ERROR;
+  return mTraffic.normalSet(static_cast<char>(command.request), static_cast<char>(command.reply),
                             payload.data(), static_cast<int>(payload.size()));
 }
 
+int Operation::setText(const std::string& text, std::size_t most) {
+  return text.size() > most ? refuse("the text is too long") : set(text);
+}
+
 Reply Operation::ask(Length usable, std::string payload) {
-  const int buffer =
-      mCommand.exchange == Exchange::GetBig ? ToviTraffic::BIG_SIZE : ToviTraffic::TEMP_SIZE;
+  if (!fits(payload)) return Reply();
   Reply reply(mTraffic.getData(wideCode(mCommand.request), wideCode(mCommand.reply), payload.data(),
-                               static_cast<int>(payload.size()), buffer));
+                               static_cast<int>(payload.size()), bufferSize(mCommand)));
   if (!reply || (reply.size() >= usable.least && reply.size() <= usable.most)) return reply;
   mTraffic.mOutcome = ToviOutcome::BadReply;
   return Reply();
+}
+
+int Operation::askFlag(std::string payload) {
+  const Reply reply = ask(atLeast(0), std::move(payload));
+  if (!reply)
+    return mTraffic.mOutcome == ToviOutcome::RefusedArgument ? ToviTraffic::ARGUMENT_ERROR : -1;
+  if (reply.isOne(2)) return 1;
+  mTraffic.mOutcome = ToviOutcome::Rejected;
+  return 0;
+}
+
+std::string Operation::askText(std::string payload) {
+  const int status = mCommand.request > 0xFF ? 2 : 1;
+  const Reply reply = ask(atLeast(status + 2), std::move(payload));
+  if (!reply) return "";
+  if (reply.isOne(status)) return reply.text(status + 1);
+  mTraffic.mOutcome = ToviOutcome::Rejected;
+  return "";
+}
+
+int Operation::askByte(int n, int otherwise, std::string payload) {
+  const Reply reply = ask(atLeast(n + 1), std::move(payload));
+  return reply ? reply.signedByte(n) : otherwise;
 }
 
 int Operation::refuse(const char* why) {
   log::error("%s refused: %s", mCommand.method.data(), why);
   mTraffic.mOutcome = ToviOutcome::RefusedArgument;
   return ToviTraffic::ARGUMENT_ERROR;
+}
+
+bool Operation::fits(const std::string& payload) {
+  if (payload.size() <= kMaxPayload) return true;
+  refuse("it does not fit a frame");
+  return false;
 }
 
 }  // namespace tovi::device

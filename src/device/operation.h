@@ -20,25 +20,49 @@ struct Length {
 constexpr Length atLeast(int bytes) { return {bytes}; }
 constexpr Length exactly(int bytes) { return {bytes, bytes}; }
 
+// What fits a frame in every mode: the 16-bit code and a whole block of padding are added to it.
+inline constexpr std::size_t kMaxPayload = 65535 - 2 - 16;
+
 // A payload of single bytes; of each number its low byte.
 std::string bytes(std::initializer_list<int> values);
 
-// One call of a public method, from its " start" line to its outcome.
+// One call of a public method, from its " start" line to its outcome. Payloads that do not fit a
+// frame are refused before anything is sent.
 class Operation {
  public:
   Operation(ToviTraffic& traffic, const Command& command);
 
-  // Sends a setting: 1, or normalSet's negative code.
+  // Sends a setting: 1, or normalSet's negative code, or -15.
   int set(std::string payload = {});
+
+  // Sends a setting of another command that this operation begins with.
+  int step(const Command& command, std::string payload);
+
+  // Sends a text as a setting, unless it is longer than the controller's room for it.
+  int setText(const std::string& text, std::size_t most);
 
   // Sends a query with the receive buffer of the command's row. No reply, or one of another length,
   // comes back as none.
   Reply ask(Length usable, std::string payload = {});
 
+  // Sends a query whose reply says yes or no in byte 2: 1, 0, or -1 without a reply; -15 when
+  // refused.
+  int askFlag(std::string payload = {});
+
+  // Sends a query whose reply holds a text behind a status byte; empty unless the status is 1.
+  std::string askText(std::string payload = {});
+
+  // Sends a query and gives one byte of its reply, signed; `otherwise` when there is none.
+  int askByte(int n, int otherwise, std::string payload = {});
+
+  ToviOutcome outcome() const { return mTraffic.lastOutcome(); }
+
   // Ends the operation before anything is sent: says why in the log and gives -15.
   int refuse(const char* why);
 
  private:
+  bool fits(const std::string& payload);
+
   ToviTraffic& mTraffic;
   const Command& mCommand;
 };

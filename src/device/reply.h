@@ -21,8 +21,16 @@ class Reply {
   int signedByte(int n) const { return static_cast<signed char>(unsignedByte(n)); }
   bool isOne(int n) const { return unsignedByte(n) == 1; }
 
+  // Low byte first.
+  int unsignedShort(int n) const { return unsignedByte(n) | unsignedByte(n + 1) << 8; }
+  int signedShort(int n) const { return static_cast<short>(unsignedShort(n)); }
+  int integer(int n) const;
+
   // The text from byte n up to its first zero byte.
   std::string text(int n) const { return mResult == nullptr ? "" : mResult->toStr(n); }
+
+  // The bytes from n on as upper-case hexadecimal digits.
+  std::string hexText(int n) const { return mResult == nullptr ? "" : mResult->toStrT(n); }
 
   // The bytes from n on with a closing zero, in an array that the host releases; null past the end.
   char* newText(int n) const { return mResult == nullptr ? nullptr : mResult->toStrChar(n); }

@@ -12,7 +12,6 @@ using tovi::json::NodeType;
 
 namespace {
 
-constexpr std::size_t kMaxValueText = 127;
 constexpr std::size_t kMaxErrorRemainder = 256;  // a reply may be long, a message must not be
 
 // Null when memory is out: adding reports that instead of throwing.
@@ -134,7 +133,7 @@ std::string CJsonObject::valueText(std::string_view key) const {
   if (value == nullptr) return {};
   switch (value->type) {
     case NodeType::String:
-      return value->text.substr(0, kMaxValueText);
+      return value->text;
     case NodeType::Integer:
     case NodeType::Double:
       return tovi::json::numberText(*value);

@@ -47,7 +47,7 @@ class CJsonObject {
   CJsonObject& element(std::uint32_t index);
 
   // The member's value as text: a string as it is, numbers in digits, "true" or "false". Empty when
-  // missing, null, an array or an object. Never more than 127 bytes, a longer string is cut.
+  // missing, null, an array or an object.
   std::string valueText(std::string_view key) const;
 
   // Compact JSON; empty when there is no data.

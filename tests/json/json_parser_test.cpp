@@ -63,6 +63,7 @@ TEST(JsonParser, ReadsStrings) {
   expectReprints({
       {R"("\"\\\/\b\f\n\r\t")", R"("\"\\/\b\f\n\r\t")"},
       {R"("\u0041\u00e9\u20AC\uD83D\uDE00\uFFFF")", "\"A\u00e9\u20ac\U0001F600\xEF\xBF\xBF\""},
+      {R"("\u007F\u0080\u07FF\u0800")", "\"\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\""},
       {R"("a\u0000b\u001F")", R"("a\u0000b\u001f")"},
       {"\"\xFF\x80\x7F\"", "\"\xFF\x80\x7F\""},
       {R"({"\u0061\n":1})", R"({"a\n":1})"},
@@ -74,7 +75,7 @@ TEST(JsonParser, RefusesBrokenStrings) {
   expectErrorsAt(1, {R"("\x")", R"("\U0041")", R"("\u12")", R"("\u12G4")", R"("\u-123")",
                      R"("\u 123")", R"("\uD83D")", R"("\uDE00")", R"("\uD83Dabcdef")",
                      R"("\uD83D\uD83D")", R"("\uD83D\u0041")", R"("\uD83D\u)"});
-  expectErrorsAt(2, {"\"a\nb\"", "\"a\0b\""s});
+  expectErrorsAt(2, {"\"a\nb\"", "\"a\0b\""s, "\"a\x1F\""});
   expectErrorsAt(4, {"\"abc", "\"abc\\"});
 }
 
@@ -108,8 +109,8 @@ TEST(JsonParser, RefusesOverflowAndTakesUnderflowAsZero) {
   const std::string zeros(400, '0');
   expectErrorsAt(0, {"-1e99999999999999999999", "1" + zeros, "0.1e400", "1e2147483647"});
   expectErrorsAt(1, {"[1e999]"});
-  for (const auto& zero :
-       {"0e999"s, "1e-999"s, "-1.5e-99999999999999999999"s, "0." + zeros + "1"}) {
+  for (const auto& zero : {"0e999"s, "1e-999"s, "-1.5e-99999999999999999999"s, "0." + zeros + "1",
+                           "0." + zeros + "1e+9"}) {
     EXPECT_EQ(reprint(zero), "0.000000e+00") << zero;
   }
   EXPECT_EQ(reprint("1" + zeros + ".0e-400"), "1.000000");

@@ -1,0 +1,44 @@
+// What each method sends and makes of the answer, one row a case.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include <tovisdk/tovisdk.h>
+
+namespace tovi::test {
+
+struct Call {
+  const char* what;  // the method, then what is particular about the case
+  std::string (*call)(ToviTraffic&);
+  const char* request;  // command byte and payload; "|" between requests; empty: nothing is sent
+  const char* reply;    // command byte and payload; "|" between replies; empty: silence
+  std::string result;
+};
+
+// The tables, by theme.
+extern const std::span<const Call> kSettingCalls;
+extern const std::span<const Call> kMaintenanceCalls;
+extern const std::span<const Call> kNetworkCalls;
+extern const std::span<const Call> kDisplayCalls;
+extern const std::span<const Call> kScheduleCalls;
+extern const std::span<const Call> kTimeCalls;
+extern const std::span<const Call> kTextCalls;
+extern const std::span<const Call> kSecureModeCalls;
+
+// Results as texts that a row can name.
+inline std::string show(int number) { return std::to_string(number); }
+inline std::string show(bool flag) { return flag ? "true" : "false"; }
+std::string show(char* text);  // "null" for null; releases it
+template <class... Values>
+std::string show(const std::string& first, const Values&... values) {
+  std::string text = first;
+  ((text += " ", text += show(values)), ...);
+  return text;
+}
+template <class... Values>
+std::string show(int first, const Values&... values) {
+  return show(std::to_string(first), values...);
+}
+
+}  // namespace tovi::test

@@ -1,0 +1,75 @@
+#include "tests/device/call_table.h"
+
+namespace tovi::test {
+namespace {
+
+using T = ToviTraffic;
+
+std::string info(BackUpsInfo* info) {
+  const std::string text = show(info->state, info->times);
+  deleteObj(&info);
+  return text;
+}
+
+std::string flags(PreStoredScreenEnabled enabled) { return show(enabled.first, enabled.second); }
+
+const Call kCalls[] = {
+    {"restartDevice", [](T& t) { return show(t.restartDevice()); }, "0D", "0E 01", "1"},
+    {"sendHeartBeat", [](T& t) { return t.sendHeartBeat(), std::string("-"); }, "00 00", "", "-"},
+    {"setCloseScreenTemperature highest",
+     [](T& t) { return show(t.setCloseScreenTemperature(150)); }, "15 00 00 00 00 00 96", "16 01",
+     "1"},
+    {"setCloseScreenTemperature lowest", [](T& t) { return show(t.setCloseScreenTemperature(0)); },
+     "15 00 00 00 00 00 00", "16 01", "1"},
+    {"setCloseScreenTemperature above", [](T& t) { return show(t.setCloseScreenTemperature(151)); },
+     "", "", "-15"},
+    {"setCloseScreenTemperature below", [](T& t) { return show(t.setCloseScreenTemperature(-1)); },
+     "", "", "-15"},
+    {"getCloseScreenTemperature", [](T& t) { return show(t.getCloseScreenTemperature()); }, "29",
+     "2A 01 02 03 04 05 F6", "-10"},
+    {"getCloseScreenTemperature of six bytes",
+     [](T& t) { return show(t.getCloseScreenTemperature()); }, "29", "2A 01 02 03 04 05", "-11"},
+    {"getCloseScreenTemperature silent", [](T& t) { return show(t.getCloseScreenTemperature()); },
+     "29", "", "-1"},
+    {"solidify", [](T& t) { return show(t.solidify(0xFE)); }, "EF 13 01 FE", "EF 13 01 01", "1"},
+    {"solidify refused", [](T& t) { return show(t.solidify(0)); }, "EF 13 01 00", "EF 13 01 02",
+     "0"},
+    {"solidify silent", [](T& t) { return show(t.solidify(0)); }, "EF 13 01 00", "", "-1"},
+    {"backups", [](T& t) { return show(t.backups()); }, "EF 11 01 01", "EF 11 01 00 FE", "-2"},
+    {"backups short", [](T& t) { return show(t.backups()); }, "EF 11 01 01", "EF 11 01 01", "-1"},
+    {"getBackupsTimes", [](T& t) { return info(t.getBackupsTimes()); }, "EF 11 01 00",
+     "EF 11 01 01 01 20 0A FF", "1 200AFF"},
+    {"getBackupsTimes not made", [](T& t) { return info(t.getBackupsTimes()); }, "EF 11 01 00",
+     "EF 11 01 01 02 20", "2 "},
+    {"getBackupsTimes short", [](T& t) { return info(t.getBackupsTimes()); }, "EF 11 01 00",
+     "EF 11 01 01 01", "-1 "},
+    {"getBackupsTimes silent", [](T& t) { return info(t.getBackupsTimes()); }, "EF 11 01 00", "",
+     "-1 "},
+    {"setSSHEnabled", [](T& t) { return show(t.setSSHEnabled(true)); }, "EF 10 01 01 01",
+     "EF 10 01 01", "1"},
+    {"setSSHEnabled off", [](T& t) { return show(t.setSSHEnabled(false)); }, "EF 10 01 01 00",
+     "EF 10 01 00", "0"},
+    {"getSSHEnabled", [](T& t) { return show(t.getSSHEnabled()); }, "EF 10 01 00", "EF 10 01 00 07",
+     "1"},
+    {"getSSHEnabled off", [](T& t) { return show(t.getSSHEnabled()); }, "EF 10 01 00",
+     "EF 10 01 00 00", "0"},
+    {"getSSHEnabled not told", [](T& t) { return show(t.getSSHEnabled()); }, "EF 10 01 00",
+     "EF 10 01 01 01", "-1"},
+    {"getSSHEnabled short", [](T& t) { return show(t.getSSHEnabled()); }, "EF 10 01 00",
+     "EF 10 01 00", "-1"},
+    {"setPreStoredScreenEnabled", [](T& t) { return show(t.setPreStoredScreenEnabled(true)); },
+     "EF 12 01 01 01", "EF 12 01 00 01", "1"},
+    {"setPreStoredScreenEnabled short",
+     [](T& t) { return show(t.setPreStoredScreenEnabled(false)); }, "EF 12 01 01 00", "EF 12 01 00",
+     "-1"},
+    {"getPreStoredScreenEnabled", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
+     "EF 12 01 00", "EF 12 01 00 01 FF", "1 -1"},
+    {"getPreStoredScreenEnabled short", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
+     "EF 12 01 00", "EF 12 01 00 01", "-1 0"},
+};
+
+}  // namespace
+
+const std::span<const Call> kMaintenanceCalls = kCalls;
+
+}  // namespace tovi::test
