@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstddef>
 #include <utility>
 
 #include "platform/listener.h"
@@ -13,6 +14,9 @@ namespace tovi::platform::test {
 
 // Far beyond any wait that a test provokes; met only when something hangs.
 inline constexpr int kLongMs = 10000;
+
+// More than the system buffers between two ends of a connection.
+inline constexpr std::size_t kMoreThanFits = std::size_t{64} << 20;
 
 class OwnedSocket {
  public:

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "loopback.h"
+#include "platform/files.h"
 #include "platform/listener.h"
 #include "platform/sockets.h"
 #include "platform/system.h"
@@ -23,8 +24,6 @@ namespace tovi::platform::test {
 namespace {
 
 using PosixSockets = LoopbackTest;
-
-constexpr std::size_t kMoreThanFits = std::size_t{64} << 20;
 
 int descriptor(const OwnedSocket& socket) { return static_cast<int>(socket.get()); }
 
@@ -199,6 +198,7 @@ TEST_F(PosixSockets, AreNeitherInheritedNorLeaked) {
   }
   EXPECT_EQ(listenOn("127.0.0.1", localPort(listener.get())), kInvalidSocket);
   EXPECT_EQ(listenOn("256.1.1.1", 0), kInvalidSocket);
+  EXPECT_TRUE(appendText("/dev/null", "x"));
   near.close();
   far.close();
   listener.close();

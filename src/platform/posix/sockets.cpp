@@ -101,7 +101,7 @@ void setTimeouts(Socket socket, int milliseconds) {
   const int bounded = std::max(milliseconds, 0);
   timeval value{};
   value.tv_sec = bounded / 1000;
-  value.tv_usec = bounded % 1000 * 1000;
+  value.tv_usec = bounded % 1000 * 1000L;
   for (const int option : {SO_SNDTIMEO, SO_RCVTIMEO}) {
     ::setsockopt(descriptorOf(socket), SOL_SOCKET, option, &value, sizeof value);
   }

@@ -68,7 +68,8 @@ class Converter {
   }
 
  private:
-  bool isOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+  // iconv_open fails with -1 in place of a pointer.
+  bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
   bool run(char** input, std::size_t* inputLeft, std::string& result) {
     for (;;) {
