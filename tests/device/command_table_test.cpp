@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iomanip>
+#include <iterator>
 #include <set>
+#include <sstream>
 
 #include "device/command_table.h"
 #include "foundation/frame.h"
@@ -35,6 +39,25 @@ TEST(CommandTable, EightBitCodesWidenWithTheirSign) {
   EXPECT_EQ(tovi::wideCode(0xDD), static_cast<short>(0xFFDD));
   EXPECT_EQ(tovi::wideCode(0xFF), -1);
   EXPECT_EQ(tovi::wideCode(0x0101), 0x0101);
+}
+
+// The table that readers see is the table that the code uses.
+TEST(CommandTable, StandsInTheProtocolDocument) {
+  std::ifstream file(TOVI_SOURCE_FOLDER "/docs/protocol.md");
+  ASSERT_TRUE(file.is_open());
+  const std::string document(std::istreambuf_iterator<char>(file), {});
+  const auto code = [](unsigned value, unsigned none) {
+    std::ostringstream text;
+    text << std::hex << std::uppercase << std::setfill('0') << "0x"
+         << std::setw(value > 0xFF ? 3 : 2) << value;
+    return value == none ? "none" : text.str();
+  };
+  for (const Command& row : kCommands) {
+    const std::string line = "| `" + std::string(row.method) + "` | " +
+                             code(row.request, tovi::device::kNoRequest) + " | " +
+                             code(row.reply, tovi::device::kNoReply) + " |\n";
+    EXPECT_NE(document.find(line), std::string::npos) << line;
+  }
 }
 
 }  // namespace

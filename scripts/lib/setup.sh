@@ -1,0 +1,23 @@
+# Sourced by the scripts: strict mode, the project's root as working folder, and installing what is
+# missing. Debian 12 is what we know the package names of.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+TOOL_PACKAGES=(g++ cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
+TEST_PACKAGES=(libgtest-dev)
+CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config)
+
+install_missing() {
+  local package missing=()
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}\n' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
+      missing+=("$package")
+  done
+  [[ ${#missing[@]} -eq 0 ]] && return
+  local as_root=()
+  [[ $(id -u) -eq 0 ]] || as_root=(sudo)
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
+}
