@@ -15,6 +15,15 @@ if(TOVISDK_SANITIZE)
   target_link_options(tovi_own_code INTERFACE -fsanitize=${TOVISDK_SANITIZE})
 endif()
 
+# Which half of src/platform is built, and what it links.
+if(WIN32)
+  set(tovi_platform_folder win32)
+  set(tovi_platform_libraries ws2_32)
+else()
+  set(tovi_platform_folder posix)
+  set(tovi_platform_libraries)
+endif()
+
 # Gives a target C++20, hidden symbols and the warnings of our own code.
 function(tovi_own target)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tovi_own_code>)

@@ -9,7 +9,7 @@
 TOVISDK_API bool createEmptyFile(const char* path);
 
 /// Appends `length` bytes of `data` to a file, which is made when it is missing. Nothing happens
-/// when it cannot be opened, for null and for a length of 0 or less.
+/// when it cannot be opened, for null and for a negative length.
 TOVISDK_API void writeFileAppend(const char* path, const char* data, long long length);
 
 /// The whole file, with a zero byte behind it, in a new array that the caller releases with

@@ -20,6 +20,10 @@
 namespace tovi::device {
 class Operation;
 }
+namespace tovi::transfer {
+struct Step;
+class Transfer;
+}  // namespace tovi::transfer
 
 /// One display controller.
 ///
@@ -500,8 +504,10 @@ class TOVISDK_API ToviTraffic {
   static constexpr int LOCAL_FILE_ERROR = -13;
   static constexpr int STOPPED_BY_HOST = -16;
 
-  /// Hears of a transfer's progress after each chunk: bytes acknowledged, and bytes in all. False
-  /// stops the transfer before the next chunk.
+  /// Hears of a transfer's progress after each chunk: bytes acknowledged, and bytes in all (the
+  /// file's size when it was opened). False stops the transfer there, after the last chunk too:
+  /// nothing more is sent or awaited. It is called on the caller's thread and must not use the same
+  /// object; what it throws passes through, with the connection and the file closed.
   using Progress = std::function<bool(long long sent, long long total)>;
 
   /// Sends a file. Commands 0x11 (name, after 0xFF 0xFF), 0x13 (chunk number from 1, low byte
@@ -509,10 +515,10 @@ class TOVISDK_API ToviTraffic {
   /// 0xF9.
   /// @param path the local file, in the local code page
   /// @param name the name under which the controller stores it
-  /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk; -7,
-  /// -8 the
-  ///         end; -13 the file cannot be opened or read; -15 a null argument or a name of more than
-  ///         65515 bytes
+  /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk;
+  ///         -7, -8 the end; -13 the file cannot be opened or read, or became shorter meanwhile:
+  ///         the name has been announced by then; -15 a null argument or a name of more than 65515
+  ///         bytes
   int sendFile(const char* path, const char* name);
   /// The same, told to the host as it goes.
   /// @return as above, and -16 when the host stopped it
@@ -523,8 +529,7 @@ class TOVISDK_API ToviTraffic {
   /// @param number above 999 it is taken modulo 999
   /// @param text zero-terminated, sent as it is
   /// @return 1; -14 no connection; -3 to -8 as sendFile; -9, -10 playing was not answered or
-  /// refused; -15
-  ///         for null or a text of more than 65515 bytes
+  ///         refused; -15 for null, a text of more than 65515 bytes or a number below -99
   int sendPlayList(int number, const char* text);
 
   /// Plays a playlist. Command 0x1B, reply 0x1C; payload 1 byte: the number.
@@ -545,7 +550,7 @@ class TOVISDK_API ToviTraffic {
   /// @return empty without a usable reply
   std::list<std::string> getAllMediaFileName();
   /// Names of the files of one type. Command and reply 0xB9; payload 1 byte: the type; reply as
-  /// above.
+  /// above. Elements of either array that are no texts are left out.
   std::list<std::string> getFileListName(char type);
 
   /// Updates from a local path on the controller. Command 0x88, reply 0x89; payload 01, low byte of
@@ -566,7 +571,9 @@ class TOVISDK_API ToviTraffic {
   int updateFileName(const std::string& name);
 
   /// Lets the controller download files and waits until it is done. Command and reply 0xAB;
-  /// payload: the list, a JSON array. Replies of status 2 mean that it goes on.
+  /// payload: the list, a JSON array. Replies of status 2 mean that it goes on; at most 100000
+  /// replies are waited for. Without a connection the line "socket == NULL" goes to the standard
+  /// output, "send SOCKET_ERROR" when sending fails.
   /// @return whether status 1 came; false for a list of more than 65517 bytes
   bool downloadFiles(const std::string& list);
 
@@ -583,7 +590,7 @@ class TOVISDK_API ToviTraffic {
   /// stands from byte 3 on, in pieces of 65535 bytes until a shorter one, at most 4096 pieces.
   /// @param path the local file, emptied first; a transfer that fails leaves it empty or cut short
   /// @return 1; -15 when path is empty or cannot be made; -1 no connection; -11 when a piece did
-  /// not come
+  ///         not come or the last one is full, too; -13 when the file cannot be written
   int getDeviceScreenshot(std::string path);
 
   /// @}
@@ -633,6 +640,7 @@ class TOVISDK_API ToviTraffic {
 
  private:
   friend class tovi::device::Operation;
+  friend class tovi::transfer::Transfer;
   friend struct ToviTestAccess;
 
   std::uint64_t getSocket();
@@ -664,10 +672,15 @@ class TOVISDK_API ToviTraffic {
 
   int sendFileName(std::uint64_t socket, const char* name, int len);
   int sendFileContent(std::uint64_t socket, const char* path, int chunkSize, int* lastLen,
-                      int* nextNumber);
+                      int* nextNumber, const Progress& progress);
   int sendContent(std::uint64_t socket, const char* data, int len, int number);
   int recvFileOverRsp(std::uint64_t socket);
   int sendPlayId(std::uint64_t socket, int number);
+  int sendChunk(std::uint64_t socket, char* payload, int len, int number);
+  int transferStep(std::uint64_t socket, const tovi::transfer::Step& step, char* data, int len);
+  int awaitStep(std::uint64_t socket, const tovi::transfer::Step& step, bool sent);
+  bool awaitDownload(std::uint64_t socket);
+  int receiveScreenshot(std::uint64_t socket, const char* path, bool sent);
 
   char* mIp;
   unsigned short mPort;

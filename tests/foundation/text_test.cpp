@@ -52,8 +52,9 @@ TEST(Text, FormatHasNoLimit) {
 }
 
 TEST(Text, ConversionsFallBackToTheTextItself) {
-  EXPECT_EQ(string_To_UTF8("a"), "<utf8>a");
-  EXPECT_EQ(UTF8_To_string("unconvertible"), "unconvertible");
+  EXPECT_EQ(string_To_UTF8("限速"), "限速");
+  EXPECT_EQ(string_To_UTF8("\xFF\xFE"), "\xFF\xFE");
+  EXPECT_EQ(UTF8_To_string("\xFF\xFE"), "\xFF\xFE");
 }
 
 TEST(Text, HexPrintsBytesUnpadded) {

@@ -5,7 +5,6 @@
 
 #include "platform/files.h"
 #include "platform/system.h"
-#include "platform/text.h"
 
 namespace tovi::test {
 namespace {
@@ -124,9 +123,5 @@ bool makeFolder(const std::string& path) {
   fakePlatform().folders.insert(path);
   return true;
 }
-
-std::optional<std::string> localToUtf8(const std::string& text) { return "<utf8>" + text; }
-
-std::optional<std::string> utf8ToLocal(const std::string&) { return std::nullopt; }
 
 }  // namespace tovi::platform

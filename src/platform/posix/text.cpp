@@ -56,6 +56,9 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
+  // iconv_open fails with -1 in place of a pointer.
+  bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
+
   std::optional<std::string> convert(std::string text) {
     if (!isOpen()) return std::nullopt;
     std::string result;
@@ -68,9 +71,6 @@ class Converter {
   }
 
  private:
-  // iconv_open fails with -1 in place of a pointer.
-  bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
-
   bool run(char** input, std::size_t* inputLeft, std::string& result) {
     for (;;) {
       char piece[512];
@@ -101,6 +101,23 @@ std::optional<std::string> utf8ToLocal(const std::string& text) {
   const char* codeSet = ::nl_langinfo(CODESET);
   if (isTakenAsUtf8(codeSet)) return text;
   return Converter(codeSet, "UTF-8").convert(text);
+}
+
+std::optional<std::string> utf8ToGbk(const std::string& text) {
+  Converter converter("GBK", "UTF-8");
+  if (!converter.isOpen() || !isUtf8(text)) return std::nullopt;
+  // Character by character, because one that GBK lacks must not cost the others.
+  std::string result;
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::string character(rest.substr(0, utf8CharacterLength(rest)));
+    rest.remove_prefix(character.size());
+    result += character.size() == 1 ? character : converter.convert(character).value_or("?");
+  }
+  return result;
+}
+
+std::optional<std::string> gbkToUtf8(const std::string& text) {
+  return Converter("UTF-8", "GBK").convert(text);
 }
 
 }  // namespace tovi::platform

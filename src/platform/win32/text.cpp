@@ -8,6 +8,8 @@ namespace tovi::platform {
 
 namespace {
 
+constexpr UINT kGbk = 936;
+
 std::optional<std::wstring> toWide(UINT codePage, const std::string& text) {
   if (text.empty()) return std::wstring();
   if (text.size() > INT_MAX) return std::nullopt;
@@ -53,6 +55,24 @@ std::optional<std::string> localToUtf8(const std::string& text) {
 
 std::optional<std::string> utf8ToLocal(const std::string& text) {
   return convert(CP_UTF8, localCodePage(), text);
+}
+
+std::optional<std::string> utf8ToGbk(const std::string& text) {
+  const auto wide = toWide(CP_UTF8, text);
+  if (!wide) return std::nullopt;
+  if (wide->empty() || wide->size() > INT_MAX) return std::string();
+  const int size = static_cast<int>(wide->size());
+  const auto convert = [&](char* to, int room) {
+    return ::WideCharToMultiByte(kGbk, WC_NO_BEST_FIT_CHARS, wide->data(), size, to, room, "?",
+                                 nullptr);
+  };
+  std::string result(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+  convert(result.data(), static_cast<int>(result.size()));
+  return result;
+}
+
+std::optional<std::string> gbkToUtf8(const std::string& text) {
+  return convert(kGbk, CP_UTF8, text);
 }
 
 }  // namespace tovi::platform
