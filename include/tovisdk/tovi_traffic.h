@@ -213,21 +213,24 @@ class TOVISDK_API ToviTraffic {
   /// When the screen has power. Command 0x8A, reply 0x8B; entries of 14 bytes.
   /// @return 1, -11, -12 or -14
   int setDevicePowerByTimeList(std::list<DevicePowerByTimeParam> list);
-  /// Command and reply 0x52, no payload.
+  /// That timetable. Command and reply 0x52, no payload.
+  /// @return a new list that the caller releases, or null
   std::list<DevicePowerByTimeParam>* getDevicePowerByTimeList();
 
   /// Which program plays when. Command 0x41, reply 0x42; entries of 16 bytes: playId's low byte and
   /// a zero.
   /// @return 1, -11, -12 or -14
   int setPlayByTimeList(std::list<PlayByTimeParam> list);
-  /// Command and reply 0x53, no payload.
+  /// That timetable. Command and reply 0x53, no payload.
+  /// @return a new list that the caller releases, or null
   std::list<PlayByTimeParam>* getPlayByTimeList();
 
   /// Switches to brightness by timetable (command 0x07, payload 03 00), then sets it: command 0x43,
   /// reply 0x44; entries of 15 bytes: the brightness.
   /// @return 1, -11, -12 or -14 of the step that failed
   int setBrightnessByTimeList(std::list<BrightnessByTimeParam> list);
-  /// Command and reply 0x51, no payload.
+  /// That timetable. Command and reply 0x51, no payload.
+  /// @return a new list that the caller releases, or null
   std::list<BrightnessByTimeParam>* getBrightnessByTimeList();
 
   /// Sets the advance timing. Command and reply 0xDC; payload: the text, at most 4096 bytes.
@@ -309,17 +312,17 @@ class TOVISDK_API ToviTraffic {
   /// @return all false without a reply of at least 4 bytes
   TextAttr getAntiAliasing();
 
-  /// Whether controllers play in step. Command and reply 0xBC; payload 1 or 0.
+  /// Makes controllers play in step. Command and reply 0xBC; payload 1 or 0.
   /// @return whether the controller accepted
   bool setSyncPlay(bool on);
   /// Whether the controller acknowledges the question. Command and reply 0xBD, no payload. It tells
   /// nothing of a stored state.
   bool getSyncPlay();
 
-  /// The pre-stored screen. Command 0x0112; payload 01 and 1 or 0.
+  /// Switches the pre-stored screen. Command 0x0112; payload 01 and 1 or 0.
   /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
   int setPreStoredScreenEnabled(bool on);
-  /// Command 0x0112; payload 00; reply bytes 3 and 4, signed.
+  /// The pre-stored screen's two flags. Command 0x0112; payload 00; reply bytes 3 and 4, signed.
   /// @return first -1 without a reply longer than 4 bytes
   PreStoredScreenEnabled getPreStoredScreenEnabled();
 
@@ -327,7 +330,7 @@ class TOVISDK_API ToviTraffic {
   /// is 1.
   /// @return empty without a usable reply
   std::string getFontList();
-  /// Command and reply 0xD2; payload: the text, at most 1024 bytes.
+  /// Chooses a font. Command and reply 0xD2; payload: the text, at most 1024 bytes.
   /// @return 1, -11, -12, -14, or -15 for a longer text
   int setFont(const std::string& font);
 
@@ -423,40 +426,54 @@ class TOVISDK_API ToviTraffic {
   /// The same from command 0xD6, with the acceptance beside the text.
   ResultParam getLoraInfo();
   /// @}
-  /// @name Networks and sensors
-  /// Settings whose payload is the text as it stands.
+  /// @name Wireless
   /// @{
 
-  /// Whether the wireless client is on. Command and reply 0xCB; payload 1 or 0.
+  /// Switches the wireless client. Command and reply 0xCB; payload 1 or 0.
+  /// @return whether the controller accepted
   bool setWifiState(bool on);
-  /// Command and reply 0xCA, no payload.
+  /// The wireless client's state. Command and reply 0xCA, no payload.
   /// @return reply byte 1, signed; -1 without a usable reply
   int getWifiState();
-  /// Whether the access point is on. Command and reply 0xC5; payload 1 or 0.
+  /// Joins a wireless network. Command and reply 0xCF; payload: the text, at most 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int connectWifi(const std::string& connection);
+  /// Switches the access point. Command and reply 0xC5; payload 1 or 0.
   /// @return 1, -11, -12 or -14
   int setWifiApState(bool on);
-  /// Command and reply 0x9B, no payload.
+  /// The access point's state. Command and reply 0x9B, no payload.
   /// @return reply byte 1, signed; -1 without a usable reply
   int getWifiApState();
+  /// Configures the access point. Command and reply 0xC6; payload: the text, at most 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setWifiApConfig(const std::string& config);
 
-  /// @name
-  /// @return 1, -11, -12, -14, or -15 for a text that is too long
-  /// @{
-  int connectWifi(const std::string& connection);     ///< command 0xCF, at most 1024 bytes
-  int setWifiApConfig(const std::string& config);     ///< command 0xC6, at most 1024 bytes
-  int setLoraInfo(const std::string& info);           ///< command 0xD7, at most 4096 bytes
-  int setSensorInfo(const std::string& info);         ///< command 0xC8, at most 4096 bytes
-  int removeAppPageName(const std::string& package);  ///< command 0x9F, 1 to 256 bytes
   /// @}
+  /// @name Networks, sensors and applications
+  /// @{
 
-  /// @name
+  /// Configures the LoRa radio. Command and reply 0xD7; payload: the text, at most 4096 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setLoraInfo(const std::string& info);
+  /// Configures the sensors. Command and reply 0xC8; payload: the text, at most 4096 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setSensorInfo(const std::string& info);
+  /// Removes an application. Command and reply 0x9F; payload: its name, 1 to 256 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a name of any other length
+  int removeAppPageName(const std::string& package);
+
+  /// Sets the address that the controller pings. Command 0x0101; payload: the text.
   /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
-  /// @{
-  int setPingIp(const std::string& address);       ///< command 0x0101
-  int addWhitelist(const std::string& entry);      ///< command 0x010A
-  int removeWhitelist(const std::string& entry);   ///< command 0x010B
-  int setServerIPLists(const std::string& lists);  ///< command 0x010D
-  /// @}
+  int setPingIp(const std::string& address);
+  /// Adds to the whitelist. Command 0x010A; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int addWhitelist(const std::string& entry);
+  /// Takes from the whitelist. Command 0x010B; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int removeWhitelist(const std::string& entry);
+  /// Sets the servers' addresses. Command 0x010D; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int setServerIPLists(const std::string& lists);
 
   /// Changes to the software SIM. Command 0x0105, no payload.
   /// @return 1 accepted, 0 not, -1 no reply
@@ -474,15 +491,16 @@ class TOVISDK_API ToviTraffic {
   /// @param interval below 60 is sent as 60
   /// @return 1, -11, -12 or -14
   int setVirtualConnection(bool on, int interval, int value);
-  /// Command and reply 0xD3, no payload; at least 5 bytes: flag, interval (bytes 2-3), value.
+  /// The kept connection. Command and reply 0xD3, no payload; at least 5 bytes: flag, interval
+  /// (bytes 2-3), value.
   /// @return false, -1, -1 without a usable reply
   VirtualParam getVirtualConnection();
 
   /// Sets the radio's road. Command and reply 0x99; payload: of each character its distance to "0".
   /// @return 1, -11, -12, -14, or -15 for a text of more than 65517 bytes
   int setRDSRoad(const std::string& digits);
-  /// Command and reply 0x9A; payload 01. Every byte of the reply, the command byte too, is shown as
-  /// a character after "0".
+  /// The radio's road. Command and reply 0x9A; payload 01. Every byte of the reply, the command
+  /// byte too, is shown as a character after "0".
   /// @return empty without a usable reply
   std::string getRDSRoad();
 
@@ -558,6 +576,7 @@ class TOVISDK_API ToviTraffic {
   /// @return 1, -11, -12, -14, or -15 for null or a text of more than 65515 bytes
   int sendLocalUpdate(int type, const char* text);
   /// The same for trial; payload: low byte of the type, FE, the text.
+  /// @return as above
   int sendTestLocalUpdate(int type, const char* text);
   /// Removes an update. Command 0x88, reply 0x89; payload 00, low byte of the type.
   /// @return 1, -11, -12 or -14
@@ -610,7 +629,7 @@ class TOVISDK_API ToviTraffic {
   /// @param temperature 0 to 150 degrees
   /// @return 1, -11, -12, -14, or -15 for any other value
   int setCloseScreenTemperature(int temperature);
-  /// Command 0x29, reply 0x2A, no payload; reply byte 6.
+  /// The temperature at which the screen closes. Command 0x29, reply 0x2A, no payload; byte 6.
   /// @return degrees, signed; -1 without a reply, -11 when it has 6 bytes or fewer
   int getCloseScreenTemperature();
 
@@ -621,14 +640,15 @@ class TOVISDK_API ToviTraffic {
   /// Makes a backup. Command 0x0111; payload 01.
   /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
   int backups();
-  /// Command 0x0111; payload 00.
+  /// How the last backup went. Command 0x0111; payload 00; byte 3 the state, the rest from byte 4.
   /// @return a new record that the caller releases; never null
   BackUpsInfo* getBackupsTimes();
 
-  /// Remote shell access. Command 0x0110; payload 01 and 1 or 0.
+  /// Switches remote shell access. Command 0x0110; payload 01 and 1 or 0.
   /// @return 1 accepted, 0 not, -1 no reply
   int setSSHEnabled(bool on);
-  /// Command 0x0110; payload 00; byte 2 must be 0, byte 3 is the flag.
+  /// Whether remote shell access is on. Command 0x0110; payload 00; byte 2 must be 0, byte 3 is the
+  /// flag.
   /// @return 1 on, 0 off, -1 without a usable reply
   int getSSHEnabled();
 
