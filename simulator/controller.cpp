@@ -1,26 +1,33 @@
 #include "simulator/controller.h"
 
-#include <array>
 #include <utility>
 
 #include "simulator/handlers.h"
+#include "simulator/transfers.h"
 
 namespace tovi::sim {
 namespace {
+
+constexpr std::size_t kBytesShown = 16;
 
 struct Found {
   const Row* row = nullptr;      // the command itself
   const Row* sibling = nullptr;  // another command with the same code
 };
 
+using Rows = std::span<const Row> (*)();
+constexpr Rows kThemes[] = {
+    screenRows,      identityRows, powerRows,    timetableRows, displayRows,
+    pictureRows,     networkRows,  addressRows,  clockRows,     securityRows,
+    maintenanceRows, textRows,     transferRows, playlistRows,  contentRows,
+};
+
 Found find(const Message& request) {
   Found found;
-  for (const auto rows : {screenRows(), identityRows()}) {
-    for (const Row& row : rows) {
+  for (const Rows rows : kThemes) {
+    for (const Row& row : rows()) {
       if (row.command.request != request.code) continue;
-      const bool meant =
-          !row.selector || (!request.payload.empty() && request.payload.front() == *row.selector);
-      if (meant) return {&row, nullptr};
+      if (row.meant == nullptr || row.meant(request.payload)) return {&row, nullptr};
       if (found.sibling == nullptr) found.sibling = &row;
     }
   }
@@ -52,42 +59,74 @@ Answer notKnown(const Message& request) {
 }  // namespace
 
 Answer Request::accept(std::string asked) const {
-  return {std::string(command.method), std::move(asked), "accepted", {{command.reply, {1}}}};
+  return {
+      std::string(row.command.method), std::move(asked), "accepted", {{row.command.reply, {1}}}};
 }
 
-Answer Request::refuse(std::string asked) const {
-  return {std::string(command.method), std::move(asked), "refused", {{command.reply, {0}}}};
+Answer Request::refuse() const {
+  return refuse("payload " + (payload.empty() ? "none" : hex(payload, kBytesShown)));
 }
+
+Answer Request::refuse(std::string why) const { return refusalOf(row, payload, std::move(why)); }
 
 Answer Request::tell(std::string told, Bytes reply) const {
-  return {std::string(command.method), {}, std::move(told), {{command.reply, std::move(reply)}}};
+  return {std::string(row.command.method),
+          {},
+          std::move(told),
+          {{row.command.reply, std::move(reply)}}};
 }
 
 Answer Request::keepQuiet(std::string asked) const {
-  return {std::string(command.method), std::move(asked), "no reply", {}};
+  return {std::string(row.command.method), std::move(asked), "no reply", {}};
 }
 
-Controller::Controller(State initial) : mState(std::move(initial)) {}
+Answer refusalOf(const Row& row, View payload, std::string asked) {
+  Answer answer{std::string(row.command.method), std::move(asked), "refused", {}};
+  if (row.command.reply == device::kNoReply) {
+    answer.told = "refused, no reply";
+    return answer;
+  }
+  Bytes status = row.refusal != nullptr ? row.refusal(payload) : Bytes{0};
+  answer.replies.push_back({row.command.reply, std::move(status)});
+  return answer;
+}
 
-Answer Controller::handle(const Message& request) {
+Controller::Controller(State initial, Storage::Options files)
+    : mState(std::move(initial)), mFiles(std::move(files)) {}
+
+Answer Controller::handle(const Message& request, Session& session) {
   const std::lock_guard lock(mMutex);
   const Found found = find(request);
-  if (found.row != nullptr) {
-    return found.row->handler({found.row->command, request.payload, mState});
-  }
-  if (found.sibling != nullptr) {
-    return Request{found.sibling->command, request.payload, mState}.refuse("in no form we know");
-  }
-  return notKnown(request);
+  const Row* row = found.row != nullptr ? found.row : found.sibling;
+  if (row == nullptr) return notKnown(request);
+  const Request asked{*row, request.payload, mState, mFiles, session};
+  const std::size_t size = request.payload.size();
+  const bool fits = size >= row->size.least && size <= row->size.most;
+  return found.row != nullptr && fits ? row->handler(asked) : asked.refuse();
+}
+
+Answer Controller::handle(const Message& request) {
+  Session session;
+  return handle(request, session);
 }
 
 Answer Controller::refuse(const Message& request) const {
   const Found found = find(request);
   const Row* row = found.row != nullptr ? found.row : found.sibling;
-  if (row == nullptr) return notKnown(request);
-  State untouched;
-  const Request refused{row->command, request.payload, untouched};
-  return row->command.reply == device::kNoReply ? refused.keepQuiet() : refused.refuse();
+  return row != nullptr ? refusalOf(*row, request.payload, {}) : notKnown(request);
+}
+
+bool Controller::hasWholeFile(const Session& session) const {
+  return session.upload && session.upload->whole;
+}
+
+Answer Controller::confirmFile(Session& session) { return confirmUpload(*session.upload, session); }
+
+Answer Controller::refuseFile(Session& session) { return refuseUpload(*session.upload); }
+
+Key Controller::key() const {
+  const std::lock_guard lock(mMutex);
+  return mState.security.key;
 }
 
 State Controller::state() const {

@@ -1,4 +1,5 @@
-// The controller itself: state and the answers to commands. Knows no sockets, frames or ciphers.
+// The controller itself: state, files and the answers to commands. Knows no sockets, no frames and
+// no enciphering.
 #pragma once
 
 #include <functional>
@@ -6,31 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "simulator/session.h"
+#include "simulator/state.h"
+#include "simulator/storage.h"
 #include "simulator/wire.h"
 
 namespace tovi::sim {
-
-enum class BrightnessMode : std::uint8_t { Automatic = 1, Manual = 2, Timetable = 3 };
-
-// Everything a controller remembers. Texts are in whatever encoding the host sent.
-struct State {
-  bool screenOpen = true;
-  bool screenPowered = true;
-  BrightnessMode brightnessMode = BrightnessMode::Manual;
-  std::uint8_t brightness = 80;
-  std::uint8_t environmentBrightness = 120;
-  std::uint8_t volume = 50;
-  int temperature = 25;  // degrees, -127 to 127
-  bool boxDoorOpen = false;
-  bool inputInside = true;
-  std::uint8_t date = 1;  // the one date value of the status block
-  std::string name = "tovisim";
-  std::string version = "SIM-1.0.0";
-  std::string serial = "SIM0000000001";
-  bool secret = false;  // whether the controller holds a key
-  unsigned restarts = 0;
-  unsigned heartBeats = 0;
-};
 
 // What came of a command: the replies, and the same in words.
 struct Answer {
@@ -40,17 +22,28 @@ struct Answer {
   std::vector<Message> replies;
 };
 
-// Safe to use from several threads.
+// Safe to use from several threads; a session is for one.
 class Controller {
  public:
-  explicit Controller(State initial = {});
+  explicit Controller(State initial = {}, Storage::Options files = {});
 
+  Answer handle(const Message& request, Session& session);
+
+  // The request of a connection that has no other.
   Answer handle(const Message& request);
 
   // The answer of a controller that says no; nothing changes.
   Answer refuse(const Message& request) const;
 
+  // After the last chunk of a file the controller speaks of its own accord: whether it keeps the
+  // file. Nothing when no file awaits that.
+  bool hasWholeFile(const Session& session) const;
+  Answer confirmFile(Session& session);
+  Answer refuseFile(Session& session);
+
   State state() const;
+  Key key() const;
+  Storage& files() { return mFiles; }
 
   // Changes what the device measures or was set to by other means.
   void change(const std::function<void(State&)>& edit);
@@ -58,6 +51,7 @@ class Controller {
  private:
   mutable std::mutex mMutex;
   State mState;
+  Storage mFiles;
 };
 
 }  // namespace tovi::sim

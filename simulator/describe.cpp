@@ -24,8 +24,7 @@ std::string checksumNote(View sum, View covered) {
              : "wrong on purpose, should be " + hex(bytes);
 }
 
-std::string frameFields(std::string_view title, std::string_view method, const Carried& carried,
-                        Cipher cipher) {
+std::string frameFields(std::string_view title, std::string_view method, const Carried& carried) {
   const View raw = carried.raw;
   const View wire = raw.subspan(kBodyOffset, raw.size() - kMinFrame);
   const View sum = raw.last(kChecksumSize);
@@ -36,7 +35,9 @@ std::string frameFields(std::string_view title, std::string_view method, const C
   text += field("header", raw.subspan(1, 2));
   text += field("command", raw.subspan(kWhatOffset, 1), extended ? "16-bit code follows" : method);
   text += field("payload", pack(carried.message), extended ? method : std::string_view{});
-  if (carried.ciphered) text += field("ciphered", carried.body, cipherName(cipher));
+  if (carried.cipher != Cipher::None) {
+    text += field("ciphered", carried.body, cipherName(carried.cipher));
+  }
   if (!std::equal(wire.begin(), wire.end(), carried.body.begin(), carried.body.end())) {
     text += field("escaped", wire);
   }
@@ -52,19 +53,17 @@ std::string exchangeLine(std::string_view peer, const Exchange& exchange) {
   if (!answer.asked.empty()) line += "  " + answer.asked;
   line += "  -> " + answer.told;
 
-  const bool ciphered =
-      exchange.request.ciphered || std::any_of(exchange.replies.begin(), exchange.replies.end(),
-                                               [](const Carried& reply) { return reply.ciphered; });
-  if (ciphered) line += "   [" + std::string(cipherName(exchange.cipher)) + "]";
+  Cipher cipher = exchange.request.cipher;
+  for (const Carried& reply : exchange.replies) cipher = std::max(cipher, reply.cipher);
+  if (cipher != Cipher::None) line += "   [" + std::string(cipherName(cipher)) + "]";
   if (exchange.fault) line += "   (fault: " + std::string(faultName(*exchange.fault)) + ")";
   return line;
 }
 
 std::string exchangeFrames(const Exchange& exchange) {
-  std::string text =
-      frameFields("request", exchange.answer.method, exchange.request, exchange.cipher);
+  std::string text = frameFields("request", exchange.answer.method, exchange.request);
   for (const Carried& reply : exchange.replies) {
-    text += frameFields("reply", "reply to " + exchange.answer.method, reply, exchange.cipher);
+    text += frameFields("reply", "reply to " + exchange.answer.method, reply);
   }
   text.pop_back();
   return text;

@@ -16,16 +16,15 @@ namespace tovi::sim {
 // A frame and what it means, step by step.
 struct Carried {
   Message message;
-  bool ciphered = false;
-  Bytes body;  // plain or enciphered, without escapes
-  Bytes raw;   // as on the wire
+  Cipher cipher = Cipher::None;  // that the payload travels under
+  Bytes body;                    // plain or enciphered, without escapes
+  Bytes raw;                     // as on the wire
 };
 
 struct Exchange {
   Carried request;
   Answer answer;
   std::vector<Carried> replies;
-  Cipher cipher = Cipher::None;    // of the key that the exchange was held under
   std::optional<FaultKind> fault;  // that was put in
   std::vector<Step> steps;         // how the replies are delivered
 };
@@ -35,7 +34,9 @@ std::optional<Carried> readRequest(const Received& frame, const Key& key);
 
 Carried makeReply(Message message, const Key& key);
 
-// Answers a request, with the next fault if one is due.
-Exchange converse(Carried request, Controller& controller, const Key& key, FaultPlan& faults);
+// Answers a request, with the next fault if one is due. Behind a file's last chunk comes the
+// controller's word on the file, which may have a fault of its own.
+Exchange converse(Carried request, Controller& controller, Session& session, const Key& key,
+                  FaultPlan& faults);
 
 }  // namespace tovi::sim

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <utility>
 
+#include "device/command_table.h"
+
 namespace tovi::sim {
 namespace {
 
@@ -48,6 +50,16 @@ bool parseNumber(std::string_view text, Number smallest, Number largest, Number&
   return error == std::errc{} && stop == end && number >= smallest && number <= largest;
 }
 
+// "sendFileContent" or "sendFileContent#3".
+bool parseTarget(std::string_view text, Fault& fault) {
+  const std::size_t hash = text.find('#');
+  for (const device::Command& command : device::kCommands) {
+    if (command.method == text.substr(0, hash)) fault.method = command.method;
+  }
+  return !fault.method.empty() && (hash == std::string_view::npos ||
+                                   parseNumber(text.substr(hash + 1), 1U, ~0U, fault.first));
+}
+
 Bytes joined(const std::vector<Bytes>& frames) {
   Bytes all;
   for (const Bytes& frame : frames) all.insert(all.end(), frame.begin(), frame.end());
@@ -78,7 +90,8 @@ std::vector<Step> inPieces(const Bytes& bytes, std::size_t pieces) {
 
 std::optional<Fault> parseFault(std::string_view text) {
   const std::size_t colon = text.find(':');
-  const std::string_view head = text.substr(0, colon);
+  const std::size_t at = text.substr(0, colon).find('@');
+  const std::string_view head = text.substr(0, std::min(at, colon));
   const std::size_t equals = head.find('=');
 
   const auto kind = std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& candidate) {
@@ -89,6 +102,9 @@ std::optional<Fault> parseFault(std::string_view text) {
   Fault fault{kind->kind, kind->value};
   if (equals != std::string_view::npos &&
       !parseNumber(head.substr(equals + 1), 1, kind->maxValue, fault.value)) {
+    return std::nullopt;
+  }
+  if (at != std::string_view::npos && !parseTarget(text.substr(0, colon).substr(at + 1), fault)) {
     return std::nullopt;
   }
   if (colon != std::string_view::npos &&
@@ -117,12 +133,18 @@ std::string faultHelp() {
 
 FaultPlan::FaultPlan(std::vector<Fault> faults) : mFaults(std::move(faults)) {}
 
-std::optional<Fault> FaultPlan::next() {
-  if (mFaults.empty()) return std::nullopt;
-  Fault fault = mFaults.front();
-  auto& left = mFaults.front().count;
-  if (left && --*left == 0) mFaults.erase(mFaults.begin());
-  return fault;
+std::optional<Fault> FaultPlan::next(std::string_view method) {
+  for (auto fault = mFaults.begin(); fault != mFaults.end(); ++fault) {
+    if (!fault->method.empty() && fault->method != method) continue;
+    if (fault->first > 1) {
+      --fault->first;
+      continue;
+    }
+    const Fault due = *fault;
+    if (fault->count && --*fault->count == 0) mFaults.erase(fault);
+    return due;
+  }
+  return std::nullopt;
 }
 
 Message spoiltMessage(const std::optional<Fault>& fault, Message reply) {
@@ -151,6 +173,7 @@ Bytes spoiltFrame(const std::optional<Fault>& fault, Bytes frame) {
 
 std::vector<Step> deliver(const std::optional<Fault>& fault, const std::vector<Bytes>& frames) {
   std::vector<Step> steps;
+  steps.reserve(frames.size());
   for (const Bytes& frame : frames) steps.push_back({0, frame});
   if (!fault || steps.empty()) return steps;
 

@@ -32,9 +32,13 @@ struct Fault {
   FaultKind kind;
   int value = 0;                       // milliseconds of LateReply, number of Pieces
   std::optional<unsigned> count = {};  // exchanges it strikes; without one, every exchange
+  std::string_view method = {};        // the one it strikes; without one, every method
+  unsigned first = 1;                  // which of those exchanges is the first that it strikes
 };
 
-// "no-reply", "no-reply:2" (two exchanges), "late-reply=1500", "pieces=3:1".
+// "no-reply", "no-reply:2" (two exchanges), "late-reply=1500", "pieces=3:1"; of one method
+// "refuse@setBrightness", and from the third one on "refuse@sendFileContent#3:1". The controller's
+// last word on a file is "recvFileOverRsp".
 std::optional<Fault> parseFault(std::string_view text);
 
 std::string_view faultName(FaultKind kind);
@@ -42,15 +46,16 @@ std::string_view faultName(FaultKind kind);
 // Every kind with what it does, one a line.
 std::string faultHelp();
 
-// Deals out faults, one an exchange, each until its count is used up.
+// Deals out faults, one an exchange, each until its count is used up. Those of other methods are
+// passed over.
 class FaultPlan {
  public:
   explicit FaultPlan(std::vector<Fault> faults);
 
-  std::optional<Fault> next();
+  std::optional<Fault> next(std::string_view method);
 
  private:
-  std::vector<Fault> mFaults;  // the current one first
+  std::vector<Fault> mFaults;  // in the order of their turns
 };
 
 enum class End { Stay, Close, Reset };

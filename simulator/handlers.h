@@ -2,23 +2,57 @@
 // theme is a file with a table, added to the list in controller.cpp.
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <span>
+#include <string>
+#include <string_view>
 
 #include "device/command_table.h"
 #include "simulator/controller.h"
 
 namespace tovi::sim {
 
+struct Request;
+using Handler = Answer (*)(const Request&);
+
+// How many payload bytes a command may have.
+struct Size {
+  std::size_t least = 0;
+  std::size_t most = 0;
+};
+constexpr Size exactly(std::size_t size) { return {size, size}; }
+constexpr Size atMost(std::size_t size) { return {0, size}; }
+constexpr Size atLeast(std::size_t size) { return {size, SIZE_MAX}; }
+
+struct Row {
+  const device::Command& command;
+  Handler handler;
+  Size size = {};
+  // Where several commands share a code, whether a payload means this one.
+  bool (*meant)(View payload) = nullptr;
+  // Where a refusal takes more than a single 0.
+  Bytes (*refusal)(View payload) = nullptr;
+};
+
+template <std::uint8_t kFirst>
+bool beginsWith(View payload) {
+  return !payload.empty() && payload.front() == kFirst;
+}
+
 // One command on its way through a handler, with the answers it may give. The texts are for people.
 struct Request {
-  const device::Command& command;
+  const Row& row;
   View payload;
   State& state;
+  Storage& files;
+  Session& session;
 
-  // One status byte, 1 or 0.
+  // One status byte, 1.
   Answer accept(std::string asked = {}) const;
-  Answer refuse(std::string asked = {}) const;
+
+  // A status that says no. What was asked for cannot be put in words, so the bytes are shown.
+  Answer refuse() const;
+  Answer refuse(std::string why) const;
 
   // A query's result.
   Answer tell(std::string told, Bytes reply) const;
@@ -27,16 +61,22 @@ struct Request {
   Answer keepQuiet(std::string asked = {}) const;
 };
 
-using Handler = Answer (*)(const Request&);
-
-struct Row {
-  const device::Command& command;
-  Handler handler;
-  // Where several commands share a code, the first payload byte that means this one.
-  std::optional<std::uint8_t> selector = {};
-};
+Answer refusalOf(const Row& row, View payload, std::string asked);
 
 std::span<const Row> screenRows();
 std::span<const Row> identityRows();
+std::span<const Row> powerRows();
+std::span<const Row> timetableRows();
+std::span<const Row> displayRows();
+std::span<const Row> pictureRows();
+std::span<const Row> networkRows();
+std::span<const Row> addressRows();
+std::span<const Row> clockRows();
+std::span<const Row> securityRows();
+std::span<const Row> maintenanceRows();
+std::span<const Row> textRows();
+std::span<const Row> transferRows();
+std::span<const Row> playlistRows();
+std::span<const Row> contentRows();
 
 }  // namespace tovi::sim

@@ -1,13 +1,13 @@
-// Who the controller is and whether it is there: name, version, serial number, restart, secure
-// mode.
-#include "simulator/handlers.h"
+// Who the controller is and whether it is there: name, version, serial number, hardware address,
+// restart.
+#include "simulator/shapes.h"
 
 namespace tovi::sim {
 namespace {
 
 using device::command;
 
-std::string quoted(std::string_view text) { return '"' + printable(text) + '"'; }
+constexpr std::size_t kMaxName = 255;
 
 Answer sendHeartBeat(const Request& request) {
   ++request.state.heartBeats;
@@ -21,38 +21,37 @@ Answer restartDevice(const Request& request) {
 
 Answer setDeviceName(const Request& request) {
   request.state.name = textOf(request.payload.subspan(1));
-  return request.accept(quoted(request.state.name));
+  return request.accept(inQuotes(request.state.name));
 }
 
 Answer getDeviceName(const Request& request) {
   Bytes reply{1};
   const Bytes name = bytesOf(request.state.name);
   reply.insert(reply.end(), name.begin(), name.end());
-  return request.tell(quoted(request.state.name), std::move(reply));
+  return request.tell(inQuotes(request.state.name), std::move(reply));
 }
 
 Answer getDeviceVersion(const Request& request) {
-  return request.tell(quoted(request.state.version), bytesOf(request.state.version));
+  return request.tell(inQuotes(request.state.version), bytesOf(request.state.version));
 }
 
 Answer getSn(const Request& request) {
-  return request.tell(quoted(request.state.serial), bytesOf(request.state.serial));
+  return request.tell(inQuotes(request.state.serial), bytesOf(request.state.serial));
 }
 
-Answer getIsSecret(const Request& request) {
-  const bool secret = request.state.secret;
-  return request.tell(secret ? "secure mode" : "plain mode",
-                      {static_cast<std::uint8_t>(secret ? 1 : 0)});
+Answer getMac(const Request& request) {
+  const auto& mac = request.state.network.mac;
+  return request.tell(hex(mac), {mac.begin(), mac.end()});
 }
 
 constexpr Row kRows[] = {
-    {command("sendHeartBeat"), sendHeartBeat},
+    {command("sendHeartBeat"), sendHeartBeat, atLeast(0)},
     {command("restartDevice"), restartDevice},
-    {command("setDeviceName"), setDeviceName, 0x00},
-    {command("getDeviceName"), getDeviceName, 0x01},
+    {command("setDeviceName"), setDeviceName, {1, 1 + kMaxName}, beginsWith<0x00>},
+    {command("getDeviceName"), getDeviceName, exactly(1), beginsWith<0x01>},
     {command("getDeviceVersion"), getDeviceVersion},
     {command("getSn"), getSn},
-    {command("getIsSecret"), getIsSecret},
+    {command("getMac"), getMac},
 };
 
 }  // namespace

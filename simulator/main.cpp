@@ -26,7 +26,13 @@ constexpr int kUsage = 2;
 static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may not wait for a lock");
 std::atomic<bool> gAskedToEnd{false};
 
-extern "C" void askToEnd(int) { gAskedToEnd = true; }
+extern "C" void askToEnd(int signal) {
+  gAskedToEnd = true;
+  std::signal(signal, SIG_DFL);  // once more ends the program even when its output is stuck
+}
+
+// In one piece, as two threads print.
+void print(const std::string& line) { std::cout << line + '\n' << std::flush; }
 
 struct CommandLine {
   std::string listen = "127.0.0.1:5005";
@@ -34,6 +40,7 @@ struct CommandLine {
   std::string key = "none";
   std::string name;
   std::vector<std::string> faults;
+  std::string state;
   std::string portFile;
   std::uint64_t exitAfter = 0;
   bool frames = false;
@@ -51,10 +58,13 @@ void addOptions(CLI::App& app, CommandLine& line) {
       ->type_name("CIPHER:TEXT");
   app.add_option("--name", line.name, "Device name")->type_name("NAME");
   app.add_option("--fault", line.faults,
-                 "Misbehave, in the first COUNT exchanges or in all; repeatable")
-      ->type_name("KIND[=VALUE][:COUNT]")
+                 "Misbehave, in the first COUNT exchanges or in all, of one METHOD alone, from the "
+                 "NTH of those on; repeatable")
+      ->type_name("KIND[=VALUE][@METHOD[#NTH]][:COUNT]")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  app.add_option("--state", line.state, "Keep files and playlists in a folder, not in memory")
+      ->type_name("DIR");
   app.add_flag("--frames", line.frames, "Take the frames of each exchange apart");
   app.add_flag("--quiet", line.quiet, "Print no exchanges");
   app.add_option("--port-file", line.portFile, "Write the port into a file when ready")
@@ -64,7 +74,9 @@ void addOptions(CLI::App& app, CommandLine& line) {
   app.set_version_flag("--version", "tovisim " + std::to_string(TOVISDK_VERSION_MAJOR) + "." +
                                         std::to_string(TOVISDK_VERSION_MINOR) + "." +
                                         std::to_string(TOVISDK_VERSION_PATCH));
-  app.footer("Faults, used up in the order given:\n" + faultHelp());
+  app.footer("Faults, used up in the order given:\n" + faultHelp() +
+             "as in --fault no-reply:2, --fault refuse@sendFileContent#3:1 (the third chunk) or\n"
+             "--fault refuse@recvFileOverRsp (the word at the end of a file).");
 }
 
 Endpoint endpointOf(const std::string& option, const std::string& text) {
@@ -87,6 +99,7 @@ Options optionsOf(const CommandLine& line) {
   }
   options.key = *key;
   if (!line.name.empty()) options.state.name = line.name;
+  options.files.folder = line.state;
   for (const std::string& text : line.faults) {
     const auto fault = parseFault(text);
     if (!fault) throw CLI::ValidationError("--fault", "\"" + text + "\" is no fault; see --help");
@@ -94,7 +107,7 @@ Options optionsOf(const CommandLine& line) {
   }
   options.frames = line.frames;
   options.exchangeLimit = line.exitAfter;
-  if (!line.quiet) options.onLine = [](const std::string& text) { std::cout << text << std::endl; };
+  if (!line.quiet) options.onLine = print;
   return options;
 }
 
@@ -124,12 +137,9 @@ int serve(const CommandLine& line, Options options) {
     std::cerr << "tovisim: cannot write " << line.portFile << std::endl;
     return kFailed;
   }
-  if (line.dial.empty()) {
-    std::cout << "tovisim listening on " << endpointText({listen.address, simulator.port()});
-  } else {
-    std::cout << "tovisim connected to " << line.dial;
-  }
-  std::cout << std::endl;
+  print(line.dial.empty()
+            ? "tovisim listening on " + endpointText({listen.address, simulator.port()})
+            : "tovisim connected to " + line.dial);
   // Hardly anything may be done in a signal handler, so the flag is looked at now and then.
   while (!gAskedToEnd && !simulator.waitUntilFinished(std::chrono::milliseconds(50))) {
   }

@@ -1,8 +1,8 @@
-// The screen: power, brightness, sound and the status block.
+// What the screen shows of its state: brightness, sound and the status block.
 #include <algorithm>
 #include <cstdlib>
 
-#include "simulator/handlers.h"
+#include "simulator/shapes.h"
 
 namespace tovi::sim {
 namespace {
@@ -21,34 +21,31 @@ std::string_view modeText(BrightnessMode mode) {
   return "";
 }
 
-// In a refusal, what was asked for cannot be put in words.
-std::string raw(View payload) { return "payload " + (payload.empty() ? "none" : hex(payload, 16)); }
-
-Answer setPower(const Request& request) {
-  const View payload = request.payload;
-  if (payload.size() != 1 || (payload[0] != 1 && payload[0] != 2)) {
-    return request.refuse(raw(payload));
-  }
-  const bool on = payload[0] == 1;
-  request.state.screenOpen = on;
-  request.state.screenPowered = on;
-  return request.accept(on ? "on" : "off");
+std::string levelText(const State& state) {
+  return std::to_string(state.brightness) + " (" + std::string(modeText(state.brightnessMode)) +
+         ")";
 }
 
 Answer setBrightness(const Request& request) {
   const View payload = request.payload;
-  if (payload.size() != 2 || payload[0] < 1 || payload[0] > 3) return request.refuse(raw(payload));
+  if (payload[0] < 1 || payload[0] > 3) return request.refuse();
 
   State& state = request.state;
   state.brightnessMode = static_cast<BrightnessMode>(payload[0]);
-  const std::string mode(modeText(state.brightnessMode));
-  if (state.brightnessMode != BrightnessMode::Manual) return request.accept(mode);
+  if (state.brightnessMode != BrightnessMode::Manual) {
+    return request.accept(std::string(modeText(state.brightnessMode)));
+  }
   state.brightness = payload[1];
-  return request.accept("level " + std::to_string(state.brightness) + " (" + mode + ")");
+  return request.accept("level " + levelText(state));
+}
+
+Answer getBrightnessInfo(const Request& request) {
+  const State& state = request.state;
+  return request.tell("brightness " + levelText(state),
+                      {static_cast<std::uint8_t>(state.brightnessMode), state.brightness});
 }
 
 Answer setDeviceVolume(const Request& request) {
-  if (request.payload.size() != 1) return request.refuse(raw(request.payload));
   request.state.volume = request.payload[0];
   return request.accept("volume " + std::to_string(request.state.volume));
 }
@@ -63,28 +60,27 @@ Answer getDeviceType(const Request& request) {
   const State& state = request.state;
   const bool positive = state.temperature >= 0;
   const int magnitude = std::min(std::abs(state.temperature), 127);
-  const auto flag = [](bool value) { return static_cast<std::uint8_t>(value ? 1 : 0); };
   Bytes status(18, 0);
   status[6] = state.date;
-  status[7] = flag(state.boxDoorOpen);
-  status[8] = flag(state.screenPowered);
+  status[7] = byteOf(state.boxDoorOpen);
+  status[8] = byteOf(state.screenPowered);
   status[9] = state.screenOpen ? 1 : 2;
-  status[10] = flag(positive);
+  status[10] = byteOf(positive);
   status[11] = static_cast<std::uint8_t>(magnitude);
-  status[12] = flag(state.inputInside);
+  status[12] = byteOf(state.inputInside);
   status[15] = state.environmentBrightness;
   status[16] = static_cast<std::uint8_t>(state.brightnessMode);
   status[17] = state.brightness;
-  return request.tell("screen " + std::string(state.screenOpen ? "on" : "off") + ", brightness " +
-                          std::to_string(state.brightness) + " (" +
-                          std::string(modeText(state.brightnessMode)) + "), " +
-                          std::to_string(positive ? magnitude : -magnitude) + " degrees",
+  return request.tell("screen " + onOff(state.screenOpen) + ", brightness " + levelText(state) +
+                          ", " + std::to_string(positive ? magnitude : -magnitude) + " degrees",
                       std::move(status));
 }
 
 constexpr Row kRows[] = {
-    {command("getDeviceType"), getDeviceType},   {command("setPower"), setPower},
-    {command("setBrightness"), setBrightness},   {command("setDeviceVolume"), setDeviceVolume},
+    {command("getDeviceType"), getDeviceType},
+    {command("setBrightness"), setBrightness, exactly(2)},
+    {command("getBrightnessInfo"), getBrightnessInfo},
+    {command("setDeviceVolume"), setDeviceVolume, exactly(1)},
     {command("getVolumeValue"), getVolumeValue},
 };
 

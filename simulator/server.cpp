@@ -16,7 +16,7 @@ using std::chrono::milliseconds;
 
 constexpr int kDialMs = 5000;
 constexpr int kWakeMs = 1000;
-constexpr std::size_t kReceiveSize = 4096;
+constexpr std::size_t kReceiveSize = 65'536;
 
 // A peer that takes nothing for so long is given up, because meanwhile all others wait.
 constexpr int kSendMs = 2000;
@@ -36,6 +36,7 @@ struct Simulator::Connection {
   platform::Socket socket;
   std::string peer;
   FrameReader reader;
+  Session session;
   std::deque<Due> due;
   bool hangingUp =
       false;  // a step that ends the connection is due; requests are not heard any more
@@ -54,8 +55,10 @@ struct Simulator::Connection {
 };
 
 Simulator::Simulator(Options options)
-    : mOptions(std::move(options)), mController(mOptions.state), mFaults(mOptions.faults) {
-  mController.change([this](State& state) { state.secret = mOptions.key.cipher != Cipher::None; });
+    : mOptions(std::move(options)),
+      mController(mOptions.state, mOptions.files),
+      mFaults(mOptions.faults) {
+  mController.change([this](State& state) { state.security.key = mOptions.key; });
 }
 
 Simulator::~Simulator() { stop(); }
@@ -63,6 +66,8 @@ Simulator::~Simulator() { stop(); }
 bool Simulator::start() {
   const std::lock_guard lock(mStopMutex);
   if (mStarted) return false;
+  mError = mController.files().error();
+  if (!mError.empty()) return false;
   if (platform::startUpSockets() != platform::StartUp::Ready) {
     mError = "the socket layer does not start";
     return false;
@@ -232,6 +237,10 @@ void Simulator::receive(Connection& connection) {
   const int size = platform::receiveSome(connection.socket, buffer, 1);
   if (size <= 0) {
     connection.ended = true;
+    const auto& upload = connection.session.upload;
+    const std::string lost = upload && upload->file != nullptr ? upload->file->name() : "";
+    connection.session = {};
+    if (!lost.empty()) say(connection.peer + "  hung up inside " + lost + ", which is discarded");
     const std::size_t unfinished = connection.reader.unfinished();
     if (unfinished > 0) {
       say(connection.peer + "  hung up inside a frame, after " + std::to_string(unfinished) +
@@ -240,17 +249,24 @@ void Simulator::receive(Connection& connection) {
     return;
   }
   const Bytes bytes = bytesOf({buffer.data(), static_cast<std::size_t>(size)});
-  for (const Received& received : connection.reader.feed(bytes)) serve(connection, received);
+  // Each reply goes out before the next request is served: many requests in one segment must not
+  // heap up their replies.
+  for (const Received& received : connection.reader.feed(bytes)) {
+    if (connection.ended) break;
+    serve(connection, received);
+    sendDue(connection);
+  }
 }
 
 void Simulator::serve(Connection& connection, const Received& received) {
   const bool enough = mOptions.exchangeLimit > 0 && exchanges() >= mOptions.exchangeLimit;
   if (connection.hangingUp || enough) return;
   if (received.drop != Drop::None) return say(dropLine(connection.peer, received));
-  auto request = readRequest(received, mOptions.key);
-  if (!request) return say(unreadableLine(connection.peer, received, mOptions.key));
+  const Key key = mController.key();
+  auto request = readRequest(received, key);
+  if (!request) return say(unreadableLine(connection.peer, received, key));
 
-  Exchange exchange = converse(std::move(*request), mController, mOptions.key, mFaults);
+  Exchange exchange = converse(std::move(*request), mController, connection.session, key, mFaults);
   std::string line = exchangeLine(connection.peer, exchange);
   if (mOptions.frames) line += '\n' + exchangeFrames(exchange);
   say(line);

@@ -28,6 +28,7 @@ struct Options {
   std::optional<Endpoint> dial;     // a waiting host to connect to, in place of listening
   Key key;
   State state;
+  Storage::Options files;
   std::vector<Fault> faults;
 
   // Takes one line per exchange, and per frame that was dropped. Runs on the simulator's thread,

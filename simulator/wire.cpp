@@ -1,6 +1,7 @@
 #include "simulator/wire.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tovi::sim {
@@ -8,13 +9,20 @@ namespace {
 
 constexpr std::size_t kGarbageShown = 16;
 
-std::uint16_t checksumStep(std::uint16_t index) {
+constexpr std::array<std::uint16_t, 256> checksumSteps() {
+  std::array<std::uint16_t, 256> steps{};
+  for (unsigned index = 0; index < steps.size(); ++index) {
+    unsigned value = index;
+    for (int bit = 0; bit < 8; ++bit) {
+      value = (value & 1U) != 0 ? (value >> 1) ^ 0x8408U : value >> 1;
+    }
+    steps[index] = static_cast<std::uint16_t>(value);
+  }
   // The controllers' table differs from the polynomial in this one entry.
-  if (index == 0x89) return 0x019C;
-  unsigned value = index;
-  for (int bit = 0; bit < 8; ++bit) value = (value & 1U) != 0 ? (value >> 1) ^ 0x8408U : value >> 1;
-  return static_cast<std::uint16_t>(value);
+  steps[0x89] = 0x019C;
+  return steps;
 }
+constexpr std::array<std::uint16_t, 256> kChecksumSteps = checksumSteps();
 
 std::optional<Bytes> unescaped(View wire) {
   Bytes body;
@@ -71,12 +79,27 @@ std::string_view dropText(Drop drop) {
 }
 
 std::vector<Received> FrameReader::feed(View bytes) {
-  for (const std::uint8_t byte : bytes) take(byte);
+  while (!bytes.empty()) {
+    const View plain = bytes.first(plainRun(bytes));
+    if (plain.empty()) take(bytes.front());
+    mRaw.insert(mRaw.end(), plain.begin(), plain.end());
+    bytes = bytes.subspan(std::max<std::size_t>(plain.size(), 1));
+  }
   // Reported once per read: a peer must not get a line out of us for every byte.
   if (!mGarbage.empty()) {
     mReceived.push_back({Drop::Garbage, 0, {}, std::exchange(mGarbage, {})});
   }
   return std::exchange(mReceived, {});
+}
+
+// How many bytes of a body begin here that end nothing, and so need no looking at one by one.
+std::size_t FrameReader::plainRun(View bytes) const {
+  if (mRaw.size() < kBodyOffset || mEndSeen) return 0;
+  const View run = bytes.first(std::min(bytes.size(), kMaxFrame - kChecksumSize - 1 - mRaw.size()));
+  const auto stop = std::find_if(run.begin(), run.end(), [](std::uint8_t byte) {
+    return byte == kStartFlag || byte == kEndFlag;
+  });
+  return static_cast<std::size_t>(stop - run.begin());
 }
 
 void FrameReader::take(std::uint8_t byte) {
@@ -130,10 +153,8 @@ void FrameReader::finish() {
   // What looked like a frame may have swallowed the start of a good one: in place of its command
   // byte or of its checksum. Nowhere else does it hold a start flag, so this goes one level deep.
   const Bytes raw = mReceived.back().raw;
-  const Bytes garbage = mGarbage;
   const auto again = std::find(raw.begin() + 1, raw.end(), kStartFlag);
   std::for_each(again, raw.end(), [this](std::uint8_t byte) { take(byte); });
-  mGarbage = garbage;
 }
 
 void FrameReader::drop(Drop why) {
@@ -149,7 +170,7 @@ void FrameReader::skip(View bytes) {
 std::uint16_t checksum(View bytes) {
   unsigned sum = 0xFFFF;
   for (const std::uint8_t byte : bytes) {
-    sum = sum >> 8 ^ checksumStep(static_cast<std::uint16_t>((sum ^ byte) & 0xFFU));
+    sum = sum >> 8 ^ kChecksumSteps[(sum ^ byte) & 0xFFU];
   }
   return static_cast<std::uint16_t>(sum);
 }

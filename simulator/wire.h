@@ -65,6 +65,7 @@ class FrameReader {
   std::size_t unfinished() const { return mRaw.size(); }
 
  private:
+  std::size_t plainRun(View bytes) const;
   void take(std::uint8_t byte);
   void takeHeader(std::uint8_t byte);
   void takeBody(std::uint8_t byte);

@@ -3,27 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "simulator/describe.h"
+#include "tests/simulator/asked_controller.h"
 #include "tests/simulator/literal.h"
 
 namespace tovi::sim {
 namespace {
 
-class ControllerTest : public testing::Test {
- protected:
-  // The one reply as "code: payload"; empty when there is none.
-  std::string ask(std::uint16_t code, std::string_view payload = {}) {
-    mAnswer = mController.handle({code, literal(payload)});
-    if (mAnswer.replies.empty()) return {};
-    EXPECT_EQ(mAnswer.replies.size(), 1U);
-    const Message& reply = mAnswer.replies[0];
-    const std::uint8_t wide[] = {static_cast<std::uint8_t>(reply.code >> 8),
-                                 static_cast<std::uint8_t>(reply.code & 0xFF)};
-    return hex(View(wide).subspan(reply.code > 0xFF ? 0 : 1)) + ": " + hex(reply.payload);
-  }
-
-  Controller mController;
-  Answer mAnswer;
-};
+class ControllerTest : public testing::Test, protected AskedController {};
 
 TEST_F(ControllerTest, TellsWhatWasSet) {
   EXPECT_EQ(ask(0xA9), "A9: 32");
@@ -91,7 +77,7 @@ TEST_F(ControllerTest, KeepsQuietWhereNothingIsAwaited) {
 
 TEST_F(ControllerTest, SaysWhetherItHoldsAKey) {
   EXPECT_EQ(ask(0x010C), "01 0C: 00");
-  mController.change([](State& state) { state.secret = true; });
+  mController.change([](State& state) { state.security.key = {Cipher::Aes, "12345678"}; });
   EXPECT_EQ(ask(0x010C), "01 0C: 01");
 }
 
@@ -104,7 +90,7 @@ TEST_F(ControllerTest, ChangesNothingWhenToldToRefuse) {
   EXPECT_TRUE(mController.refuse({0x00, {0}}).replies.empty());
 }
 
-TEST(Printable, KeepsStrangersOffTheTerminal) {
+TEST(SimPrintable, KeepsStrangersOffTheTerminal) {
   const std::pair<std::string_view, std::string_view> texts[] = {
       {"Gate 7 \xE8\xB7\xAF\xF0\x9F\x9A\xA6", "Gate 7 \xE8\xB7\xAF\xF0\x9F\x9A\xA6"},
       {"\x1B[2J\n\x7F", "\\x1B[2J\\x0A\\x7F"},
@@ -122,12 +108,13 @@ TEST(Printable, KeepsStrangersOffTheTerminal) {
 Exchange exchangeOf(std::string_view frame, const Key& key, std::vector<Fault> faults = {}) {
   FrameReader reader;
   Controller controller;
+  Session session;
   FaultPlan plan(std::move(faults));
-  return converse(readRequest(reader.feed(literal(frame)).at(0), key).value(), controller, key,
-                  plan);
+  return converse(readRequest(reader.feed(literal(frame)).at(0), key).value(), controller, session,
+                  key, plan);
 }
 
-TEST(Describe, PutsAnExchangeIntoALine) {
+TEST(SimDescribe, PutsAnExchangeIntoALine) {
   const Key des = parseKey("des:12345678").value();
   EXPECT_EQ(exchangeLine("127.0.0.1:50312", exchangeOf("AA FF FF 07 02 50 CC 38 4A", {})),
             "127.0.0.1:50312  setBrightness  level 80 (manual)  -> accepted");
@@ -139,7 +126,7 @@ TEST(Describe, PutsAnExchangeIntoALine) {
             "127.0.0.1:50312  getVolumeValue  -> volume 50   (fault: no-reply)");
 }
 
-TEST(Describe, TakesFramesApart) {
+TEST(SimDescribe, TakesFramesApart) {
   const Key des = parseKey("des:12345678").value();
   EXPECT_EQ(exchangeFrames(exchangeOf("AA FF FF 07 4A EF E1 D4 6C AF CD 23 CC 49 4B", des)),
             "  request, 15 bytes\n"

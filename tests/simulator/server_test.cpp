@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <condition_variable>
 #include <list>
-#include <mutex>
 
+#include "tests/simulator/host.h"
 #include "tests/simulator/literal.h"
 
 namespace tovi::sim {
@@ -14,77 +12,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Only ever waited out by a test that fails.
-constexpr int kLongMs = 20'000;
-constexpr milliseconds kLong{kLongMs};
-
 constexpr std::string_view kSetBrightness = "AA FF FF 07 02 50 CC 38 4A";
 constexpr std::string_view kAccepted = "AA FF FF 08 01 CC 4E 42";
 constexpr std::string_view kGetVolume = "AA FF FF A9 CC 42 E1";
 constexpr std::string_view kVolume50 = "AA FF FF A9 32 CC 8F 8B";
-
-// A host of the crudest kind: one connection, bytes in and out.
-class Host {
- public:
-  explicit Host(platform::Socket socket) : mSocket(socket) {}
-  explicit Host(std::uint16_t port) : mSocket(platform::openSocket()) {
-    EXPECT_TRUE(platform::connectSocket(mSocket, "127.0.0.1", port, kLongMs));
-  }
-  ~Host() { platform::closeSocket(mSocket); }
-  Host(const Host&) = delete;
-  Host& operator=(const Host&) = delete;
-
-  void send(std::string_view bytes) {
-    const std::string text = textOf(literal(bytes));
-    EXPECT_EQ(platform::sendAll(mSocket, text, kLongMs), static_cast<int>(text.size()));
-  }
-
-  // As many bytes as expected are long, or fewer at the connection's end.
-  std::string receive(std::size_t size) {
-    Bytes all;
-    std::array<char, 256> buffer;
-    while (all.size() < size) {
-      const auto room = std::min(buffer.size(), size - all.size());
-      const int got = platform::receiveSome(mSocket, std::span(buffer).first(room), kLongMs);
-      if (got <= 0) break;
-      all.insert(all.end(), buffer.begin(), buffer.begin() + got);
-    }
-    return hex(all);
-  }
-
-  void expect(std::string_view bytes) { EXPECT_EQ(receive(literal(bytes).size()), bytes); }
-
-  bool isHungUp() {
-    char byte = 0;
-    return platform::receiveSome(mSocket, {&byte, 1}, kLongMs) <= 0;
-  }
-
-  void reset() { platform::resetOnClose(mSocket); }
-
- private:
-  platform::Socket mSocket;
-};
-
-class Lines {
- public:
-  std::function<void(const std::string&)> sink() {
-    return [this](const std::string& line) {
-      const std::lock_guard lock(mMutex);
-      mLines += line + '\n';
-      mChanged.notify_all();
-    };
-  }
-
-  bool waitFor(std::string_view text) {
-    std::unique_lock lock(mMutex);
-    return mChanged.wait_for(lock, kLong, [&] { return mLines.find(text) != std::string::npos; });
-  }
-
- private:
-  std::mutex mMutex;
-  std::condition_variable mChanged;
-  std::string mLines;
-};
 
 Options keyed(std::string_view key) {
   Options options;
@@ -248,8 +179,8 @@ TEST(Simulator, StopsAtOnceAndAgain) {
   waiting.send(kGetVolume);
   ASSERT_TRUE(simulator.waitForExchanges(1, kLong));
   simulator.stop();
-  EXPECT_TRUE(waiting.isHungUp());
-  EXPECT_TRUE(idle.isHungUp());
+  EXPECT_EQ(waiting.end(), End::Close);
+  EXPECT_EQ(idle.end(), End::Close);
   EXPECT_TRUE(simulator.waitUntilFinished(milliseconds(0)));
   simulator.stop();
   Simulator neverStarted({});
@@ -277,7 +208,7 @@ TEST(Simulator, EndsAtItsExchangeLimitAfterTheReply) {
   host.expect(kVolume50);
   host.send(kSetBrightness);
   host.expect(kAccepted);
-  EXPECT_TRUE(host.isHungUp());
+  EXPECT_EQ(host.end(), End::Close);
   EXPECT_TRUE(simulator.waitUntilFinished(kLong));
   EXPECT_EQ(simulator.exchanges(), 2U);
 }
@@ -309,31 +240,31 @@ struct Misbehaviour {
   std::string_view fault;
   std::string_view key;
   std::string_view bytes;  // in answer to setBrightness
-  bool hangsUp;
+  End end = End::Stay;
 };
 
 constexpr std::string_view kSetBrightnessSm4 =
     "AA FF FF 07 70 DA 41 E5 59 85 4F D0 E1 92 72 9F 4C BF F7 F3 CC 66 EF";
 
 constexpr Misbehaviour kMisbehaviours[] = {
-    {"late-reply=1", "none", kAccepted, false},
-    {"pieces=3", "none", kAccepted, false},
-    {"two-replies", "none", "AA FF FF 08 01 CC 4E 42 AA FF FF 08 01 CC 4E 42", false},
-    {"wrong-checksum", "none", "AA FF FF 08 01 CC B1 BD", false},
-    {"bad-escape", "none", "AA FF FF 08 01 EE 00 CC 83 07", false},
-    {"wrong-command", "none", "AA FF FF 48 01 CC 38 44", false},
-    {"garbage", "none", "00 11 22 33 44 55 66 77 AA FF FF 08 01 CC 4E 42", false},
-    {"refuse", "none", "AA FF FF 08 00 CC 96 5B", false},
-    {"wrong-key", "none", "AA FF FF 08 94 11 A4 92 FE 0F 37 C0 CC 67 08", false},
+    {"late-reply=1", "none", kAccepted},
+    {"pieces=3", "none", kAccepted},
+    {"two-replies", "none", "AA FF FF 08 01 CC 4E 42 AA FF FF 08 01 CC 4E 42"},
+    {"wrong-checksum", "none", "AA FF FF 08 01 CC B1 BD"},
+    {"bad-escape", "none", "AA FF FF 08 01 EE 00 CC 83 07"},
+    {"wrong-command", "none", "AA FF FF 48 01 CC 38 44"},
+    {"garbage", "none", "00 11 22 33 44 55 66 77 AA FF FF 08 01 CC 4E 42"},
+    {"refuse", "none", "AA FF FF 08 00 CC 96 5B"},
+    {"wrong-key", "none", "AA FF FF 08 94 11 A4 92 FE 0F 37 C0 CC 67 08"},
     {"wrong-key", "sm4:12345678",
-     "AA FF FF 08 E8 C7 D7 68 9B 01 08 6A 31 3A E7 AF CA E2 1D 30 CC 6D CA", false},
-    {"close-before", "none", "", true},
-    {"reset", "none", "", true},
-    {"close-inside", "none", "AA FF FF 08", true},
-    {"close-after", "none", kAccepted, true},
+     "AA FF FF 08 E8 C7 D7 68 9B 01 08 6A 31 3A E7 AF CA E2 1D 30 CC 6D CA"},
+    {"close-before", "none", "", End::Close},
+    {"reset", "none", "", End::Reset},
+    {"close-inside", "none", "AA FF FF 08", End::Close},
+    {"close-after", "none", kAccepted, End::Close},
 };
 
-TEST(Faults, ShowOnTheWireForAsLongAsTold) {
+TEST(SimFaults, ShowOnTheWireForAsLongAsTold) {
   for (const Misbehaviour& one : kMisbehaviours) {
     SCOPED_TRACE(one.fault);
     const bool plain = one.key == "none";
@@ -342,18 +273,41 @@ TEST(Faults, ShowOnTheWireForAsLongAsTold) {
     Host host(simulator.port());
     host.send(plain ? kSetBrightness : kSetBrightnessSm4);
     host.expect(one.bytes);
-    if (one.hangsUp) {
-      EXPECT_TRUE(host.isHungUp());
+    const bool stays = one.end == End::Stay;
+    if (!stays) {
+      EXPECT_EQ(host.end(), one.end);
     }
 
-    Host next(simulator.port());
-    (one.hangsUp ? next : host).send("AA FF FF EF 0C 01 CC 5E C1");
-    (one.hangsUp ? next : host)
-        .expect(plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
+    Host another(simulator.port());
+    Host& next = stays ? host : another;
+    next.send("AA FF FF EF 0C 01 CC 5E C1");
+    next.expect(plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
   }
 }
 
-TEST(Faults, TakeTurnsAndSpareWhatHasNoReply) {
+TEST(SimFaults, LeaveWhatFollowsUnheard) {
+  // Nothing is heard from a peer that has been hung up on...
+  Simulator closing(faulty({"close-before"}));
+  ASSERT_TRUE(closing.start());
+  Host chatty(closing.port());
+  chatty.send("AA FF FF A9 CC 42 E1 AA FF FF 45 07 CC 97 EF");
+  EXPECT_EQ(chatty.end(), End::Close);
+  EXPECT_EQ(closing.exchanges(), 1U);
+
+  // ... nor, until it has its answer, from one that asks again meanwhile.
+  Simulator late(faulty({"late-reply=600000:1"}));
+  ASSERT_TRUE(late.start());
+  Host impatient(late.port());
+  impatient.send(kGetVolume);
+  ASSERT_TRUE(late.waitForExchanges(1, kLong));
+  impatient.send(kGetVolume);
+  Host other(late.port());
+  other.send(kGetVolume);
+  other.expect(kVolume50);
+  EXPECT_EQ(late.exchanges(), 2U);
+}
+
+TEST(SimFaults, TakeTurnsAndSpareWhatHasNoReply) {
   Simulator simulator(faulty({"no-reply:2", "refuse"}));
   ASSERT_TRUE(simulator.start());
   Host host(simulator.port());
@@ -366,7 +320,7 @@ TEST(Faults, TakeTurnsAndSpareWhatHasNoReply) {
   }
 }
 
-TEST(Faults, PutTheReplyOffOrApart) {
+TEST(SimFaults, PutTheReplyOffOrApart) {
   const Fault late = parseFault("late-reply=1500").value();
   const std::vector<Step> once = deliver(late, {{1, 2}, {3}});
   ASSERT_EQ(once.size(), 2U);
@@ -383,7 +337,7 @@ TEST(Faults, PutTheReplyOffOrApart) {
   EXPECT_TRUE(deliver(parseFault("close-inside"), {}).empty());
 }
 
-TEST(Faults, AreRefusedUnlessWhole) {
+TEST(SimFaults, AreRefusedUnlessWhole) {
   EXPECT_EQ(parseFault("pieces").value().value, 2);
   EXPECT_FALSE(parseFault("reset").value().count);
   for (const char* text :
@@ -393,7 +347,7 @@ TEST(Faults, AreRefusedUnlessWhole) {
   }
 }
 
-TEST(Endpoint, IsADottedAddressAndAPort) {
+TEST(SimEndpoint, IsADottedAddressAndAPort) {
   EXPECT_EQ(endpointText(parseEndpoint("localhost:0").value()), "127.0.0.1:0");
   EXPECT_EQ(endpointText(parseEndpoint("192.168.1.10:65535").value()), "192.168.1.10:65535");
   for (const char* text : {"", ":", "127.0.0.1", "127.0.0.1:", ":5005", "127.0.0.1:65536",

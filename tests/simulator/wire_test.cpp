@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kGood = "AA FF FF 07 02 50 CC 38 4A";
 
-TEST(Checksum, MatchesTheWire) {
+TEST(SimChecksum, MatchesTheWire) {
   EXPECT_EQ(checksum({}), 0xFFFF);
   EXPECT_EQ(checksum(literal("76")), 0x0163);  // through the altered entry
   EXPECT_EQ(checksum(literal("AA FF FF 10 CC")), 0x0C34);
@@ -64,7 +64,7 @@ void expectEvents(const Stream& stream, const std::vector<Received>& received) {
   }
 }
 
-TEST(FrameReader, FindsFramesHoweverTheyAreCut) {
+TEST(SimFrameReader, FindsFramesHoweverTheyAreCut) {
   for (const Stream& stream : kStreams) {
     const Bytes bytes = literal(stream.bytes);
     for (std::size_t cut = 0; cut <= bytes.size(); ++cut) {
@@ -82,7 +82,7 @@ TEST(FrameReader, FindsFramesHoweverTheyAreCut) {
   }
 }
 
-TEST(FrameReader, ReportsGarbageOncePerRead) {
+TEST(SimFrameReader, ReportsGarbageOncePerRead) {
   FrameReader reader;
   const auto received = reader.feed(Bytes(100'000, 0x55));
   ASSERT_EQ(received.size(), 1U);
@@ -92,7 +92,7 @@ TEST(FrameReader, ReportsGarbageOncePerRead) {
   EXPECT_EQ(reader.unfinished(), 3U);
 }
 
-TEST(FrameReader, DropsWhatIsTooLongAndGoesOn) {
+TEST(SimFrameReader, DropsWhatIsTooLongAndGoesOn) {
   FrameReader reader;
   reader.feed(literal("AA FF FF 13"));
   Drop drop = Drop::None;
@@ -105,7 +105,7 @@ TEST(FrameReader, DropsWhatIsTooLongAndGoesOn) {
   EXPECT_EQ(reader.feed(literal(kGood)).size(), 1U);
 }
 
-TEST(FrameReader, TakesTheLargestFrame) {
+TEST(SimFrameReader, TakesTheLargestFrame) {
   Bytes body(65535, 0xEE);
   FrameReader reader;
   const auto received = reader.feed(writeFrame(0x13, body));
@@ -114,7 +114,7 @@ TEST(FrameReader, TakesTheLargestFrame) {
   EXPECT_EQ(received[0].body, body);
 }
 
-TEST(FrameReader, FindsAFrameAfterAnyNoise) {
+TEST(SimFrameReader, FindsAFrameAfterAnyNoise) {
   std::mt19937 random(20240607);
   constexpr std::uint8_t kLikely[] = {0xAA, 0xFF, 0xFF, 0xCC, 0xEE, 0x0A, 0xEF, 0x00};
   for (int round = 0; round < 20'000; ++round) {
@@ -129,14 +129,14 @@ TEST(FrameReader, FindsAFrameAfterAnyNoise) {
   }
 }
 
-TEST(WriteFrame, EscapesThePayloadAlone) {
+TEST(SimWriteFrame, EscapesThePayloadAlone) {
   EXPECT_EQ(writeFrame(0x08, literal("01")), literal("AA FF FF 08 01 CC 4E 42"));
   EXPECT_EQ(writeFrame(0x7F, literal("01 AA CC EE")),
             literal("AA FF FF 7F 01 EE 0A EE 0C EE 0E CC 2C B1"));
   EXPECT_EQ(writeFrame(0xAA, literal("01 02")), literal("AA FF FF AA 01 02 CC A9 6C"));
 }
 
-TEST(Message, CarriesCodesOfSixteenBits) {
+TEST(SimMessage, CarriesCodesOfSixteenBits) {
   EXPECT_EQ(whatByte(0x010C), 0xEF);
   EXPECT_EQ(whatByte(0xF4), 0xF4);
   EXPECT_EQ(pack({0x010C, {1}}), literal("0C 01 01"));
@@ -171,7 +171,7 @@ constexpr Ciphered kCiphered[] = {
      "C6"},
 };
 
-TEST(Cipher, MatchesKnownBytes) {
+TEST(SimCipher, MatchesKnownBytes) {
   for (const Ciphered& row : kCiphered) {
     const Key key = parseKey(row.key).value();
     EXPECT_EQ(encipher(key, literal(row.plain)), literal(row.ciphered)) << row.key;
@@ -179,7 +179,7 @@ TEST(Cipher, MatchesKnownBytes) {
   }
 }
 
-TEST(Cipher, GivesNothingForWhatIsNotItsOwn) {
+TEST(SimCipher, GivesNothingForWhatIsNotItsOwn) {
   for (const Ciphered& row : kCiphered) {
     const Key key = parseKey(row.key).value();
     Bytes ciphered = literal(row.ciphered);
@@ -191,7 +191,7 @@ TEST(Cipher, GivesNothingForWhatIsNotItsOwn) {
   }
 }
 
-TEST(Cipher, LeavesTheExemptPlain) {
+TEST(SimCipher, LeavesTheExemptPlain) {
   const Key none;
   const Key des = parseKey("des:12345678").value();
   EXPECT_TRUE(sentPlain(none, {0x08, {1}}));
@@ -211,7 +211,7 @@ TEST(Cipher, LeavesTheExemptPlain) {
   EXPECT_FALSE(receivedPlain(des, 0xEF, literal("0C 01 33 44 55 66 77 88")));
 }
 
-TEST(Key, IsRefusedUnlessWhole) {
+TEST(SimKey, IsRefusedUnlessWhole) {
   EXPECT_EQ(parseKey("none").value().cipher, Cipher::None);
   EXPECT_EQ(parseKey("sm4::2345678").value().text, ":2345678");
   for (const char* text : {"", "des", "des:", "des:1234567", "des:123456789", "DES:12345678",

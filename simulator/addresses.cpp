@@ -1,0 +1,97 @@
+// Addresses: the controller's own, servers, the one it pings, the hosts it lets in.
+#include <algorithm>
+
+#include "simulator/json.h"
+#include "simulator/shapes.h"
+
+namespace tovi::sim {
+namespace {
+
+using device::command;
+
+constexpr std::size_t kBasicSize = 26;
+constexpr std::size_t kMaxAddress = 255;
+constexpr std::size_t kMaxServers = 4096;
+constexpr std::size_t kMaxWhitelist = 100;
+
+std::string dotted(View ip) {
+  std::string text;
+  for (const std::uint8_t byte : ip) text += (text.empty() ? "" : ".") + std::to_string(byte);
+  return text;
+}
+
+std::array<std::uint8_t, 4> addressAt(View payload, std::size_t at) {
+  return {payload[at], payload[at + 1], payload[at + 2], payload[at + 3]};
+}
+
+Answer setDeviceNetBasicParam(const Request& request) {
+  const View payload = request.payload;
+  Network::Basic& basic = request.state.network.basic;
+  basic = {addressAt(payload, 0), addressAt(payload, 4), addressAt(payload, 8),
+           lowFirst(payload.subspan(12)), addressAt(payload, 14)};
+  return request.keepQuiet(dotted(basic.ip) + " mask " + dotted(basic.netmask) + " gateway " +
+                           dotted(basic.gateway) + " port " + std::to_string(basic.port) +
+                           " server " + dotted(basic.server));
+}
+
+Answer resetDeviceIpToDefault(const Request& request) {
+  request.state.network.basic = {};
+  return request.keepQuiet(dotted(request.state.network.basic.ip));
+}
+
+Answer setPingIp(const Request& request) {
+  return setText(request, request.state.network.pingAddress);
+}
+
+Answer getPingIp(const Request& request) {
+  return tellText(request, request.state.network.pingAddress);
+}
+
+Answer setServerIPLists(const Request& request) {
+  return setText(request, request.state.network.servers);
+}
+
+Answer getServerIPLists(const Request& request) {
+  return tellText(request, request.state.network.servers);
+}
+
+// Listing one twice does no harm, like listing it once.
+Answer addWhitelist(const Request& request) {
+  auto& list = request.state.network.whitelist;
+  const std::string entry = textOf(request.payload);
+  if (printable(entry) != entry) return request.refuse();
+  if (std::find(list.begin(), list.end(), entry) == list.end()) {
+    if (list.size() == kMaxWhitelist) return request.refuse("the list is full");
+    list.push_back(entry);
+  }
+  return request.accept(inQuotes(entry));
+}
+
+Answer removeWhitelist(const Request& request) {
+  const std::string entry = textOf(request.payload);
+  const bool listed = std::erase(request.state.network.whitelist, entry) > 0;
+  return listed ? request.accept(inQuotes(entry))
+                : request.refuse(inQuotes(entry) + " is not listed");
+}
+
+Answer getWhitelist(const Request& request) {
+  return tellText(request, jsonArray(request.state.network.whitelist));
+}
+
+constexpr Row kRows[] = {
+    {command("setDeviceNetBasicParam"), setDeviceNetBasicParam, exactly(kBasicSize)},
+    {command("resetDeviceIpToDefault"), resetDeviceIpToDefault},
+    {command("setPingIp"), setPingIp, {1, kMaxAddress}},
+    {command("getPingIp"), getPingIp},
+    {command("setServerIPLists"), setServerIPLists, {1, kMaxServers}},
+    {command("getServerIPLists"), getServerIPLists},
+    {command("addWhitelist"), addWhitelist, {1, kMaxAddress}},
+    {command("removeWhitelist"), removeWhitelist, {1, kMaxAddress}},
+    {command("getWhitelist"), getWhitelist},
+};
+
+}  // namespace
+
+std::span<const Row> addressRows() { return kRows; }
+
+}  // namespace tovi::sim

@@ -1,0 +1,112 @@
+// Radio and links: Wi-Fi, access point, virtual connection, LoRa, SIM card.
+#include <algorithm>
+
+#include "simulator/json.h"
+#include "simulator/shapes.h"
+
+namespace tovi::sim {
+namespace {
+
+using device::command;
+
+constexpr std::size_t kMaxConfig = 1024;
+constexpr std::size_t kMaxLora = 4096;
+constexpr std::uint16_t kShortestInterval = 60;
+
+Answer setWifiState(const Request& request) {
+  return setFlags(request, {&request.state.network.wifi});
+}
+
+Answer getWifiState(const Request& request) {
+  return tellFlag(request, request.state.network.wifi);
+}
+
+Answer connectWifi(const Request& request) {
+  return setText(request, request.state.network.wifiConnection);
+}
+
+Answer getWifiList(const Request& request) {
+  return tellText(request, R"({"connected":)" + jsonString(request.state.network.wifiConnection) +
+                               R"(,"networks":[{"ssid":"workshop","signal":-51},)"
+                               R"({"ssid":"roadside","signal":-74}]})");
+}
+
+Answer setWifiApState(const Request& request) {
+  return setFlags(request, {&request.state.network.accessPoint});
+}
+
+Answer getWifiApState(const Request& request) {
+  return tellFlag(request, request.state.network.accessPoint);
+}
+
+Answer setWifiApConfig(const Request& request) {
+  return setText(request, request.state.network.accessPointConfig);
+}
+
+Answer getWifiApConfig(const Request& request) {
+  return tellText(request, request.state.network.accessPointConfig);
+}
+
+std::string linkText(const Network::VirtualConnection& link) {
+  return onOff(link.enabled) + ", interval " + std::to_string(link.interval) + ", value " +
+         std::to_string(link.value);
+}
+
+Answer setVirtualConnection(const Request& request) {
+  const View payload = request.payload;
+  const std::uint16_t interval = lowFirst(payload.subspan(1));
+  if (payload[0] > 1 || interval < kShortestInterval) return request.refuse();
+  auto& link = request.state.network.virtualConnection;
+  link = {payload[0] == 1, interval, payload[3]};
+  return request.accept(linkText(link));
+}
+
+Answer getVirtualConnection(const Request& request) {
+  const auto& link = request.state.network.virtualConnection;
+  Bytes reply{byteOf(link.enabled)};
+  appendLowFirst(reply, link.interval, 2);
+  reply.push_back(link.value);
+  return request.tell(linkText(link), std::move(reply));
+}
+
+Answer setLoraInfo(const Request& request) { return setText(request, request.state.network.lora); }
+
+Answer getLoraInfo(const Request& request) { return tellText(request, request.state.network.lora); }
+
+Answer switchToSoftsim(const Request& request) {
+  request.state.network.softSim = true;
+  return request.accept();
+}
+
+Answer getSimInfo(const Request& request) {
+  return tellText(request,
+                  request.state.network.softSim ? R"({"sim":"soft"})" : R"({"sim":"card"})");
+}
+
+Answer getMobileInfo(const Request& request) {
+  return tellText(request, R"({"operator":"simulated","network":"4G","signal":-67})");
+}
+
+constexpr Row kRows[] = {
+    {command("setWifiState"), setWifiState, exactly(1)},
+    {command("getWifiState"), getWifiState},
+    {command("connectWifi"), connectWifi, {1, kMaxConfig}},
+    {command("getWifiList"), getWifiList},
+    {command("setWifiApState"), setWifiApState, exactly(1)},
+    {command("getWifiApState"), getWifiApState},
+    {command("setWifiApConfig"), setWifiApConfig, {1, kMaxConfig}},
+    {command("getWifiApConfig"), getWifiApConfig},
+    {command("setVirtualConnection"), setVirtualConnection, exactly(4)},
+    {command("getVirtualConnection"), getVirtualConnection},
+    {command("setLoraInfo"), setLoraInfo, atMost(kMaxLora)},
+    {command("getLoraInfo"), getLoraInfo},
+    {command("switchToSoftsim"), switchToSoftsim},
+    {command("getSimInfo"), getSimInfo},
+    {command("getMobileInfo"), getMobileInfo},
+};
+
+}  // namespace
+
+std::span<const Row> networkRows() { return kRows; }
+
+}  // namespace tovi::sim

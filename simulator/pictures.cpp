@@ -1,0 +1,123 @@
+// What the display shows, as a picture, and its broken pixels. Both come in pieces.
+#include <algorithm>
+
+#include "simulator/shapes.h"
+
+namespace tovi::sim {
+namespace {
+
+using device::command;
+
+constexpr std::size_t kFullPiece = 65'535;
+constexpr int kMostPixels = 4'000'000;
+
+// Small enough that a few dozen pixels take several parts.
+constexpr std::size_t kPixelPart = 256;
+
+std::size_t rowSize(int width) { return (static_cast<std::size_t>(width) + 3) / 4 * 4; }
+
+// A bitmap of 8 bits a pixel, whose palette is 256 greys.
+Bytes greyPicture(int width, int height, std::uint8_t grey) {
+  constexpr std::size_t kHeaders = 14 + 40;
+  constexpr std::size_t kPalette = 256 * 4;
+  const std::size_t pixels = rowSize(width) * static_cast<std::size_t>(height);
+
+  Bytes picture{'B', 'M'};
+  picture.reserve(kHeaders + kPalette + pixels);
+  appendLowFirst(picture, kHeaders + kPalette + pixels, 4);
+  appendLowFirst(picture, 0, 4);
+  appendLowFirst(picture, kHeaders + kPalette, 4);
+  appendLowFirst(picture, 40, 4);
+  appendLowFirst(picture, static_cast<unsigned>(width), 4);
+  appendLowFirst(picture, static_cast<unsigned>(height), 4);
+  appendLowFirst(picture, 1, 2);
+  appendLowFirst(picture, 8, 2);
+  appendLowFirst(picture, 0, 4);
+  appendLowFirst(picture, pixels, 4);
+  appendLowFirst(picture, 0, 8);
+  appendLowFirst(picture, 256, 4);
+  appendLowFirst(picture, 0, 4);
+  for (unsigned level = 0; level < 256; ++level) appendLowFirst(picture, level * 0x010101U, 4);
+  picture.resize(kHeaders + kPalette + pixels, grey);
+  return picture;
+}
+
+// A display of very many pixels is shown smaller, as a real one sends a preview.
+Bytes screenPicture(const State& state) {
+  int width = state.display.width;
+  int height = state.display.height;
+  while (width > kMostPixels / height) {
+    width = std::max(width / 2, 1);
+    height = std::max(height / 2, 1);
+  }
+  Bytes picture = greyPicture(width, height, state.screenOpen ? state.brightness : 0);
+  if (state.display.screenshotSize) picture.resize(*state.display.screenshotSize);
+  return picture;
+}
+
+// Each piece: its number in two bytes, then its part of the picture. One that is not full ends it.
+Answer getDeviceScreenshot(const Request& request) {
+  if (request.payload[0] != 0xFF || request.payload[1] != 0xFF) return request.refuse();
+  const Bytes picture = screenPicture(request.state);
+  Answer answer = request.keepQuiet();
+  View left = picture;
+  for (bool more = true; more;) {
+    const View part = left.first(std::min(left.size(), kFullPiece));
+    Bytes piece;
+    appendLowFirst(piece, answer.replies.size() + 1, 2);
+    piece.insert(piece.end(), part.begin(), part.end());
+    answer.replies.push_back({request.row.command.reply, std::move(piece)});
+    left = left.subspan(part.size());
+    more = part.size() == kFullPiece;
+  }
+  answer.told = "a picture of " + std::to_string(picture.size()) + " bytes in " +
+                std::to_string(answer.replies.size()) + " pieces";
+  return answer;
+}
+
+std::string badPixelsText(const Display& display) {
+  return std::to_string(display.badPixels.size()) + " broken pixels";
+}
+
+Answer startScreenPointDetect(const Request& request) {
+  Display& display = request.state.display;
+  display.pixelsTested = true;
+  Bytes reply{1};
+  appendLowFirst(reply, display.badPixels.size(), 4);
+  return request.tell(badPixelsText(display), std::move(reply));
+}
+
+// First how many parts there are, then the parts: "x,y;x,y".
+Answer getDetectErrorPointData(const Request& request) {
+  const Display& display = request.state.display;
+  if (!display.pixelsTested) return request.refuse("not tested yet");
+  std::string text;
+  for (const auto& [x, y] : display.badPixels) {
+    text += (text.empty() ? "" : ";") + std::to_string(x) + "," + std::to_string(y);
+  }
+  Bytes announced{1};
+  appendLowFirst(announced, (text.size() + kPixelPart - 1) / kPixelPart, 2);
+  Answer answer = request.tell(badPixelsText(display), std::move(announced));
+  for (std::size_t at = 0; at < text.size(); at += kPixelPart) {
+    answer.replies.push_back({request.row.command.reply, bytesOf(text.substr(at, kPixelPart))});
+  }
+  return answer;
+}
+
+constexpr Row kRows[] = {
+    {command("getDeviceScreenshot"), getDeviceScreenshot, exactly(2)},
+    {command("startScreenPointDetect"), startScreenPointDetect},
+    {command("getDetectErrorPointData"),
+     getDetectErrorPointData,
+     {},
+     nullptr,
+     [](View) {
+       return Bytes{0, 0, 0};
+     }},
+};
+
+}  // namespace
+
+std::span<const Row> pictureRows() { return kRows; }
+
+}  // namespace tovi::sim

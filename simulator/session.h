@@ -1,0 +1,25 @@
+// What belongs to one connection and ends with it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "simulator/storage.h"
+
+namespace tovi::sim {
+
+struct Session {
+  struct Upload {
+    std::unique_ptr<Incoming> file;  // none once it has been kept or lost
+    std::uint16_t next = 1;          // number of the next chunk
+    bool whole = false;              // the last chunk has come
+    bool kept = false;
+  };
+  std::optional<Upload> upload;
+
+  // A playlist that came over this connection and may be asked for by the low byte of its number.
+  std::optional<int> lastPlaylist;
+};
+
+}  // namespace tovi::sim

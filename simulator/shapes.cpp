@@ -1,0 +1,52 @@
+#include "simulator/shapes.h"
+
+namespace tovi::sim {
+namespace {
+
+constexpr std::size_t kTextShown = 60;
+
+}  // namespace
+
+std::string onOff(bool on) { return on ? "on" : "off"; }
+
+std::string inQuotes(std::string_view text) {
+  if (text.size() <= kTextShown) return '"' + printable(text) + '"';
+  return '"' + printable(text.substr(0, kTextShown)) + "\"... (" + std::to_string(text.size()) +
+         " bytes)";
+}
+
+void appendLowFirst(Bytes& bytes, std::uint64_t value, int size) {
+  for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> 8 * i & 0xFF));
+}
+
+Answer setFlags(const Request& request, std::initializer_list<bool*> flags) {
+  const bool on = request.payload[0] == 1;
+  if (!on && request.payload[0] != 0) return request.refuse();
+  for (bool* flag : flags) *flag = on;
+  return request.accept(onOff(on));
+}
+
+Answer tellFlag(const Request& request, bool flag) {
+  return request.tell(onOff(flag), {byteOf(flag)});
+}
+
+Answer setPowerFlags(const Request& request, std::initializer_list<bool*> flags) {
+  const bool on = request.payload[0] == 1;
+  if (!on && request.payload[0] != 2) return request.refuse();
+  for (bool* flag : flags) *flag = on;
+  return request.accept(onOff(on));
+}
+
+Answer setText(const Request& request, std::string& text) {
+  text = textOf(request.payload);
+  return request.accept(inQuotes(text));
+}
+
+Answer tellText(const Request& request, std::string_view text) {
+  Bytes reply{1};
+  reply.insert(reply.end(), text.begin(), text.end());
+  reply.push_back(0);
+  return request.tell(inQuotes(text), std::move(reply));
+}
+
+}  // namespace tovi::sim

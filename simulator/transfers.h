@@ -1,0 +1,11 @@
+// Files that come in: the name, numbered chunks, and the controller's word at the end.
+#pragma once
+
+#include "simulator/handlers.h"
+
+namespace tovi::sim {
+
+Answer confirmUpload(Session::Upload& upload, Session& session);
+Answer refuseUpload(Session::Upload& upload);
+
+}  // namespace tovi::sim

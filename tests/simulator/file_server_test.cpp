@@ -1,0 +1,204 @@
+// Files, keys and faults of single commands on the wire. All frames were computed with openssl and
+// a separate checksum.
+#include <gtest/gtest.h>
+
+#include "simulator/server.h"
+#include "tests/simulator/host.h"
+#include "tests/transfer/temporary_folder.h"
+
+namespace tovi::sim {
+namespace {
+
+constexpr std::string_view kName = "AA FF FF 11 FF FF 61 2E 74 78 74 CC 0C 5B";  // a.txt
+constexpr std::string_view kNameTaken = "AA FF FF 12 01 CC A1 B4";
+constexpr std::string_view kHello = "AA FF FF 13 01 00 68 65 6C 6C 6F CC CC 2F";
+constexpr std::string_view kHelloStored = "AA FF FF 14 01 00 01 CC 91 C4 AA FF FF F9 01 CC A6 94";
+constexpr std::string_view kGetNames = "AA FF FF B0 CC CB A3";
+constexpr std::string_view kNames =
+    "AA FF FF B0 01 5B 22 61 2E 74 78 74 22 5D 00 CC E3 A0";  // ["a.txt"]
+
+Options faulty(std::initializer_list<std::string_view> faults) {
+  Options options;
+  for (const std::string_view fault : faults) options.faults.push_back(parseFault(fault).value());
+  return options;
+}
+
+TEST(FileServer, TakesAFile) {
+  Simulator simulator({});
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send(kName);
+  host.expect(kNameTaken);
+  host.send("AA FF FF 13 02 00 68 65 6C 6C 6F CC 1C A5");  // chunk 2 before chunk 1
+  host.receive(10);
+  host.send(kHello);
+  host.expect(kHelloStored);
+  host.send("AA FF FF 13 02 00 CC 82 28");  // the end once more
+  host.expect("AA FF FF 14 02 00 01 CC 5C E1 AA FF FF F9 01 CC A6 94");
+  host.send(kGetNames);
+  host.expect(kNames);
+  EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
+}
+
+TEST(FileServer, TakesACipheredFile) {
+  Options options;
+  options.key = parseKey("des:12345678").value();
+  Simulator simulator(std::move(options));
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send("AA FF FF 11 06 B3 5E 0C CF B1 4A 2C CC 9C 66");
+  host.expect("AA FF FF 12 DE EC BA 37 86 7B D1 42 CC 94 B0");
+  host.send("AA FF FF 13 E1 11 98 A4 9F 77 74 55 CC C4 78");
+  host.expect(
+      "AA FF FF 14 D3 04 69 8A 15 25 BF F1 CC 07 96 "
+      "AA FF FF F9 DE EC BA 37 86 7B D1 42 CC EC F2");
+  EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
+}
+
+TEST(FileServer, KeepsTransfersOfTwoHostsApart) {
+  Simulator simulator({});
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  Host other(simulator.port());
+  host.send(kName);
+  host.expect(kNameTaken);
+  other.send(kHello);
+  other.expect("AA FF FF 14 01 00 00 CC 49 DD");
+  host.send(kHello);
+  host.expect(kHelloStored);
+}
+
+TEST(FileServer, DiscardsWhatAHostLeavesUnfinished) {
+  const test::TemporaryFolder folder;
+  Lines lines;
+  Options options;
+  options.files.folder = folder.path();
+  options.onLine = lines.sink();
+  Simulator simulator(std::move(options));
+  ASSERT_TRUE(simulator.start()) << simulator.error();
+  {
+    Host host(simulator.port());
+    host.send(kName);
+    host.expect(kNameTaken);
+  }
+  EXPECT_TRUE(lines.waitFor("hung up inside a.txt, which is discarded"));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.path("unfinished")));
+  Host host(simulator.port());
+  host.send(kHello);
+  host.expect("AA FF FF 14 01 00 00 CC 49 DD");
+}
+
+TEST(FileServer, HasItsFolderAgainAfterARestart) {
+  const test::TemporaryFolder folder;
+  Options options;
+  options.files.folder = folder.path();
+  {
+    Simulator simulator(options);
+    ASSERT_TRUE(simulator.start());
+    Host host(simulator.port());
+    host.send(kName);
+    host.expect(kNameTaken);
+    host.send(kHello);
+    host.expect(kHelloStored);
+  }
+  EXPECT_EQ(folder.content("files/a.txt"), "hello");
+  Simulator simulator(options);
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send(kGetNames);
+  host.expect(kNames);
+
+  options.files.folder = folder.path("files/a.txt");
+  Simulator nowhere(options);
+  EXPECT_FALSE(nowhere.start());
+  EXPECT_EQ(nowhere.error().rfind("cannot use the folder", 0), 0U);
+}
+
+// What the host hears of a file of one chunk, and whether the file is there afterwards.
+struct Spoilt {
+  std::string_view fault;
+  std::string_view toName;
+  std::string_view toChunk;
+  End end;
+  bool stored;
+};
+
+constexpr Spoilt kSpoilt[] = {
+    {"refuse@sendFileName", "AA FF FF 12 00 CC 79 AD", "AA FF FF 14 01 00 00 CC 49 DD", End::Stay,
+     false},
+    {"refuse@sendFileContent", kNameTaken, "AA FF FF 14 01 00 00 CC 49 DD", End::Stay, false},
+    {"refuse@sendFileContent#2", kNameTaken, kHelloStored, End::Stay, true},
+    {"refuse@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4 AA FF FF F9 00 CC 7E 8D",
+     End::Stay, false},
+    {"no-reply@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Stay, true},
+    {"no-reply@sendFileContent", kNameTaken, "AA FF FF F9 01 CC A6 94", End::Stay, true},
+    {"close-before@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Close, true},
+    {"close-after@sendFileContent", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Close, false},
+    {"two-replies@recvFileOverRsp", kNameTaken,
+     "AA FF FF 14 01 00 01 CC 91 C4 AA FF FF F9 01 CC A6 94 AA FF FF F9 01 CC A6 94", End::Stay,
+     true},
+    {"refuse@setBrightness", kNameTaken, kHelloStored, End::Stay, true},
+};
+
+TEST(FileServer, FaultsStrikeTheStepTheyName) {
+  for (const Spoilt& one : kSpoilt) {
+    SCOPED_TRACE(one.fault);
+    Simulator simulator(faulty({one.fault}));
+    ASSERT_TRUE(simulator.start());
+    Host host(simulator.port());
+    host.send(kName);
+    host.expect(one.toName);
+    host.send(kHello);
+    host.expect(one.toChunk);
+    if (one.end == End::Stay) {
+      host.send("AA FF FF EF 0C 01 CC 5E C1");
+      host.expect("AA FF FF EF 0C 01 00 CC 50 D4");
+    } else {
+      EXPECT_EQ(host.end(), one.end);
+    }
+    EXPECT_EQ(simulator.controller().files().has("a.txt"), one.stored);
+  }
+}
+
+TEST(FaultPlan, PassesOverOtherMethods) {
+  FaultPlan plan({parseFault("refuse@setPower#2:1").value(), parseFault("reset@setPower").value(),
+                  parseFault("garbage:1").value()});
+  const auto kind = [&plan](std::string_view method) {
+    const auto fault = plan.next(method);
+    return std::string(fault ? faultName(fault->kind) : "none");
+  };
+  EXPECT_EQ(kind("setPower"), "reset");  // its first; the refusal waits for the second
+  EXPECT_EQ(kind("setTime"), "garbage");
+  EXPECT_EQ(kind("setTime"), "none");
+  EXPECT_EQ(kind("setPower"), "refuse");
+  EXPECT_EQ(kind("setPower"), "reset");
+
+  EXPECT_EQ(parseFault("pieces=3@setPower#4:2").value().value, 3);
+  for (const char* text : {"refuse@", "refuse@nothing", "refuse@setPower#", "refuse@setPower#0",
+                           "refuse@setPower#x", "refuse@#1", "refuse@setPower:", "@setPower",
+                           "refuse@setPower@setTime", "refuse:1@setPower", "refuse#1"}) {
+    EXPECT_FALSE(parseFault(text)) << text;
+  }
+}
+
+TEST(KeyChange, TakesHoldWithTheNextRequest) {
+  Simulator simulator({});
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send("AA FF FF 70 01 01 6C 91 21 31 32 33 34 35 36 37 38 CC D1 49");  // des:12345678
+  host.expect("AA FF FF 71 01 CC 88 5E");
+  host.send("AA FF FF A9 CC 42 E1");
+  host.expect("AA FF FF A9 B9 9F 50 3F 02 23 61 E8 CC 05 2E");
+  // abcdefgh in its place; the answer is still under the former key.
+  host.send("AA FF FF EF 46 D5 DA DA 5B 37 DE B1 AE 9C 9F 1D 98 10 13 83 CC 5C 3F");
+  host.expect("AA FF FF EF 1E 9F 1B B1 29 28 F7 94 CC 88 21");
+  host.send("AA FF FF A9 CC 42 E1");
+  host.expect("AA FF FF A9 0B 39 A2 21 76 CE 99 FB CC 37 30");
+  host.send("AA FF FF 70 00 00 6C 91 21 CC 09 17");
+  host.expect("AA FF FF 71 01 CC 88 5E");
+  host.send("AA FF FF A9 CC 42 E1");
+  host.expect("AA FF FF A9 32 CC 8F 8B");
+}
+
+}  // namespace
+}  // namespace tovi::sim

@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include "tests/simulator/asked_controller.h"
+
+namespace tovi::sim {
+namespace {
+
+class PicturesTest : public testing::Test, protected AskedController {
+ protected:
+  // The payload sizes of the pieces; each begins with its number.
+  std::vector<std::size_t> takeScreenshot() {
+    mPicture.clear();
+    ask(0x80, "FF FF");
+    std::vector<std::size_t> sizes;
+    for (const Message& piece : mAnswer.replies) {
+      EXPECT_EQ(piece.code, 0x81);
+      sizes.push_back(piece.payload.size());
+      EXPECT_EQ(piece.payload.at(0) | piece.payload.at(1) << 8, static_cast<int>(sizes.size()));
+      mPicture.insert(mPicture.end(), piece.payload.begin() + 2, piece.payload.end());
+    }
+    return sizes;
+  }
+
+  Bytes mPicture;
+};
+
+TEST_F(PicturesTest, ShowTheDisplayInTheGreyOfItsBrightness) {
+  mController.change([](State& state) {
+    state.display.width = 5;
+    state.display.height = 2;
+  });
+  EXPECT_EQ(takeScreenshot(), std::vector<std::size_t>{2 + 1094});
+  const View picture = mPicture;
+  EXPECT_EQ(hex(picture.first(58)),
+            "42 4D 46 04 00 00 00 00 00 00 36 04 00 00 "
+            "28 00 00 00 05 00 00 00 02 00 00 00 01 00 08 00 00 00 00 00 10 00 00 00 "
+            "00 00 00 00 00 00 00 00 00 01 00 00 00 00 00 00 "
+            "00 00 00 00");
+  EXPECT_EQ(hex(picture.subspan(54 + 80 * 4, 4)), "50 50 50 00");
+  // Two rows of five pixels, each filled up to eight.
+  EXPECT_EQ(hex(picture.subspan(1078)), "50 50 50 50 50 50 50 50 50 50 50 50 50 50 50 50");
+  ask(0x05, "02");
+  takeScreenshot();
+  EXPECT_EQ(mPicture.back(), 0);
+}
+
+TEST_F(PicturesTest, ComeInPiecesTheLastOfWhichIsNotFull) {
+  EXPECT_EQ(takeScreenshot().size(), 1U);  // 256 x 128
+  const std::pair<std::size_t, std::vector<std::size_t>> kSizes[] = {
+      {0, {2}},
+      {100, {102}},
+      {65534, {65536}},
+      {65535, {65537, 2}},
+      {65536, {65537, 3}},
+      {131070, {65537, 65537, 2}},
+  };
+  for (const auto& [size, pieces] : kSizes) {
+    mController.change([size = size](State& state) { state.display.screenshotSize = size; });
+    EXPECT_EQ(takeScreenshot(), pieces) << size;
+  }
+  EXPECT_EQ(ask(0x80, "00 00"), "81: 00");
+}
+
+TEST_F(PicturesTest, OfHugeDisplaysAreSmaller) {
+  mController.change([](State& state) {
+    state.display.width = 16384;
+    state.display.height = 1000;
+  });
+  takeScreenshot();
+  EXPECT_EQ(hex(View(mPicture).subspan(18, 8)), "00 10 00 00 FA 00 00 00");  // 4096 x 250
+  EXPECT_EQ(mPicture.size(), 1078U + 4096 * 250);
+}
+
+TEST_F(PicturesTest, TellBrokenPixelsInParts) {
+  EXPECT_EQ(ask(0x36), "37: 00 00 00");  // not tested yet
+  EXPECT_EQ(ask(0x0B), "0C: 01 02 00 00 00");
+  EXPECT_EQ(ask(0x36), "37: 01 01 00 | 37: " + words("3,1;17,8"));
+
+  mController.change([](State& state) { state.display.badPixels.clear(); });
+  EXPECT_EQ(ask(0x0B), "0C: 01 00 00 00 00");
+  EXPECT_EQ(ask(0x36), "37: 01 00 00");
+
+  mController.change([](State& state) { state.display.badPixels.assign(300, {1, 2}); });
+  EXPECT_EQ(ask(0x0B), "0C: 01 2C 01 00 00");
+  ask(0x36);
+  ASSERT_EQ(mAnswer.replies.size(), 1U + 5);  // 1199 bytes
+  EXPECT_EQ(hex(mAnswer.replies[0].payload), "01 05 00");
+  std::string all;
+  for (std::size_t i = 1; i < 6; ++i) all += textOf(mAnswer.replies[i].payload);
+  std::string expected = "1,2";
+  for (int i = 1; i < 300; ++i) expected += ";1,2";
+  EXPECT_EQ(all, expected);
+}
+
+}  // namespace
+}  // namespace tovi::sim
