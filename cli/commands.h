@@ -1,56 +1,113 @@
-// The command line's side of each operation.
+// The commands of the program.
 #pragma once
 
 #include <CLI/CLI.hpp>
 #include <functional>
-#include <memory>
 #include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
+#include "cli/argument.h"
 #include "cli/output.h"
+#include "cli/records.h"
 
 namespace tovi::cli {
 
-using Action = std::function<Result(ToviTraffic&)>;
-
-// The arguments of one command. Each call declares one and gives where its value will stand once
-// the command line is read.
-class Arguments {
- public:
-  explicit Arguments(CLI::App& command) : mCommand(command) {}
-
-  std::shared_ptr<int> number(const std::string& name, const std::string& help, int least,
-                              int most);
-  std::shared_ptr<std::string> text(const std::string& name, const std::string& help);
-  std::shared_ptr<bool> onOff(const std::string& name, const std::string& help);
-
- private:
-  CLI::App& mCommand;
+// One run of a command on one controller.
+struct Call {
+  ToviTraffic& traffic;
+  std::string controller;         // "192.168.1.10:5005", for people
+  bool several = false;           // other controllers get the same command
+  std::FILE* progress = nullptr;  // where to draw a progress bar; null: nowhere
 };
 
-// All commands of one program; knows afterwards which one was given.
+// What a method takes, from what the argument gave.
+template <class Parameter, class Value>
+Parameter passed(const Value& value) {
+  if constexpr (std::is_same_v<Parameter, const char*>) {
+    return value.c_str();
+  } else {
+    return static_cast<Parameter>(value);
+  }
+}
+
+// A setting: what the method returns tells whether it worked. Every command is a callable on a call
+// and the values of its arguments.
+template <class Returned, class... Parameters>
+auto sets(Returned (ToviTraffic::*method)(Parameters...)) {
+  return [method](Call& call, const auto&... values) {
+    ToviTraffic& traffic = call.traffic;
+    if constexpr (std::is_void_v<Returned>) {
+      (traffic.*method)(passed<Parameters>(values)...);
+      return ofOutcome(traffic);
+    } else if constexpr (std::is_same_v<Returned, bool>) {
+      return ofAcceptance(traffic, (traffic.*method)(passed<Parameters>(values)...));
+    } else {
+      return ofCode(traffic, (traffic.*method)(passed<Parameters>(values)...));
+    }
+  };
+}
+
+// A query: what the method returns is the result.
+template <class Returned, class... Parameters>
+auto asks(Returned (ToviTraffic::*method)(Parameters...)) {
+  return [method](Call& call, const auto&... values) {
+    return ofAnswer(call.traffic, shown((call.traffic.*method)(passed<Parameters>(values)...)));
+  };
+}
+
+// A query for something that is on or off.
+inline auto asksFlag(int (ToviTraffic::*method)()) {
+  return [method](Call& call) { return ofFlag(call.traffic, (call.traffic.*method)()); };
+}
+
+// All commands; knows afterwards which one was given.
 class Commands {
  public:
-  explicit Commands(CLI::App& app) : mApp(app) {}
+  // Every command is added below each of the parents.
+  explicit Commands(std::vector<CLI::App*> parents) : mParents(std::move(parents)) {}
 
   // Later commands stand under this heading in the help.
   void group(const std::string& title) { mGroup = title; }
 
-  // `declare` declares the arguments and gives what to do with them.
-  void add(const std::string& name, const std::string& help,
-           const std::function<Action(Arguments&)>& declare);
+  template <class Operation, class... Values>
+  void add(const std::string& name, const std::string& help, Operation operation,
+           const Argument<Values>&... arguments) {
+    for (CLI::App* parent : mParents) {
+      CLI::App* command = parent->add_subcommand(name, help)->group(mGroup);
+      // In braces, as those are worked through from left to right.
+      const std::tuple values{arguments.declare(*command)...};
+      command->callback([this, name, operation, values] {
+        mChosen = name;
+        mAction = [operation, values](Call& call) {
+          return std::apply([&](const auto&... value) { return operation(call, *value...); },
+                            values);
+        };
+      });
+    }
+  }
 
-  // The command that was given, its name included.
+  // The command that was given.
   const std::string& chosen() const { return mChosen; }
-  Result run(ToviTraffic& traffic) const { return mAction(traffic); }
+
+  // May run on several threads at once.
+  Result run(Call& call) const { return mAction(call); }
 
  private:
-  CLI::App& mApp;
+  std::vector<CLI::App*> mParents;
   std::string mGroup;
   std::string mChosen;
-  Action mAction;
+  std::function<Result(Call&)> mAction;
 };
 
+void addIdentityCommands(Commands& commands);
+void addScreenCommands(Commands& commands);
+void addDisplayCommands(Commands& commands);
+void addScheduleCommands(Commands& commands);
+void addFileCommands(Commands& commands);
+void addNetworkCommands(Commands& commands);
 void addDeviceCommands(Commands& commands);
 
 }  // namespace tovi::cli

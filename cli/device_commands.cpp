@@ -1,104 +1,101 @@
-// Settings and queries of a few bytes, and the status block.
-#include <memory>
+// The controller itself: identity, status, maintenance and its secure mode.
+#include <algorithm>
 
 #include "cli/commands.h"
 
 namespace tovi::cli {
-namespace {
-
-// A text that the library handed over; null when there is none.
-nlohmann::ordered_json taken(char* text) {
-  if (text == nullptr) return {};
-  const std::string copy = text;
-  deleteArry(&text);
-  return copy;
-}
-
-nlohmann::ordered_json shown(const DeviceType& status) {
-  return {{"temperature", status.getTemperature()},
-          {"brightness", status.getScreenBrightness()},
-          {"brightnessMode", status.getBrightnessType()},
-          {"environmentBrightness", status.getEnvironmentBrightness()},
-          {"screenState", status.isScreenOpen()},
-          {"screenPowerOn", status.isScreenPowerOpen()},
-          {"boxDoorOpen", status.isBoxDoorOpen()},
-          {"internalInput", status.isInputSourceInside()}};
-}
-
-void addScreenCommands(Commands& commands) {
-  commands.group("Screen");
-  commands.add("set-power", "Switch the screen on or off", [](Arguments& arguments) -> Action {
-    const auto on = arguments.onOff("STATE", "The screen's new state");
-    return [on](ToviTraffic& traffic) { return ofCode(traffic.setPower(*on)); };
-  });
-  commands.add("set-brightness", "Set the brightness by hand", [](Arguments& arguments) -> Action {
-    const auto level = arguments.number("LEVEL", "0 (dark) to 255 (brightest)", 0, 255);
-    return [level](ToviTraffic& traffic) { return ofCode(traffic.setBrightness(*level)); };
-  });
-  commands.add("set-device-volume", "Set the volume", [](Arguments& arguments) -> Action {
-    const auto volume = arguments.number("VOLUME", "0 (silent) to 255", 0, 255);
-    return [volume](ToviTraffic& traffic) { return ofCode(traffic.setDeviceVolume(*volume)); };
-  });
-  commands.add("get-volume-value", "Read the volume", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) {
-      const int volume = static_cast<unsigned char>(traffic.getVolumeValue());
-      return ofOutcome(traffic, volume);
-    };
-  });
-}
 
 void addIdentityCommands(Commands& commands) {
   commands.group("Identity and status");
-  commands.add("get-device-type", "Read the status block", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) {
-      const std::unique_ptr<DeviceType> status(traffic.getDeviceType());
-      return ofOutcome(traffic, status == nullptr ? nlohmann::ordered_json() : shown(*status));
-    };
-  });
-  commands.add("set-device-name", "Name the controller", [](Arguments& arguments) -> Action {
-    const auto name = arguments.text("NAME", "The name, UTF-8");
-    return [name](ToviTraffic& traffic) { return ofCode(traffic.setDeviceName(name->c_str())); };
-  });
-  commands.add("get-device-name", "Read the controller's name", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) {
-      const nlohmann::ordered_json name = taken(traffic.getDeviceName());
-      return ofOutcome(traffic, name);
-    };
-  });
-  commands.add("get-device-version", "Read the firmware's version", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) {
-      const nlohmann::ordered_json version = taken(traffic.getDeviceVersion());
-      return ofOutcome(traffic, version);
-    };
-  });
-  commands.add("get-sn", "Read the serial number", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) {
-      const std::string serial = traffic.getSn();
-      return ofOutcome(traffic, serial);
-    };
-  });
+  commands.add("set-device-name", "Name the controller", sets(&ToviTraffic::setDeviceName),
+               text("NAME", "The name, UTF-8"));
+  commands.add("get-device-name", "Read the controller's name", asks(&ToviTraffic::getDeviceName));
+  commands.add("get-device-version", "Read the firmware's version",
+               asks(&ToviTraffic::getDeviceVersion));
+  commands.add("get-sn", "Read the serial number", asks(&ToviTraffic::getSn));
+  commands.add("get-mac", "Read the MAC address", asks(&ToviTraffic::getMac));
+  commands.add("get-device-type", "Read the status block", asks(&ToviTraffic::getDeviceType));
+  commands.add("get-device-memory-size", "Read the memory, as the controller counts it",
+               asks(&ToviTraffic::getDeviceMemorySize));
+  commands.add("get-cpu-and-memory-info", "Read processor load and storage",
+               asks(&ToviTraffic::getCpuAndMemoryInfo));
+  commands.add("get-system-info", "Read the system's data", asks(&ToviTraffic::getSystemInfo));
+  commands.add("get-surveil", "Read the monitoring data", asks(&ToviTraffic::getSurveil));
 }
+
+namespace {
 
 void addMaintenanceCommands(Commands& commands) {
   commands.group("Maintenance");
-  commands.add("restart-device", "Restart the controller", [](Arguments&) -> Action {
-    return [](ToviTraffic& traffic) { return ofCode(traffic.restartDevice()); };
-  });
+  commands.add("restart-device", "Restart the controller", sets(&ToviTraffic::restartDevice));
   commands.add("send-heart-beat", "Tell the controller that a host is there; it does not answer",
-               [](Arguments&) -> Action {
-                 return [](ToviTraffic& traffic) {
-                   traffic.sendHeartBeat();
-                   return ofOutcome(traffic);
-                 };
-               });
+               sets(&ToviTraffic::sendHeartBeat));
+  commands.add(
+      "set-close-screen-temperature", "Set the temperature at which the screen closes, in degrees",
+      sets(&ToviTraffic::setCloseScreenTemperature), number("DEGREES", "0 to 150 degrees", 0, 150));
+  commands.add("get-close-screen-temperature", "Read the temperature at which the screen closes",
+               asks(&ToviTraffic::getCloseScreenTemperature));
+  commands.add("solidify", "Make settings permanent", sets(&ToviTraffic::solidify),
+               number("VALUE", "0 to 255", 0, 255));
+  commands.add("backups", "Make a backup; prints the controller's answer",
+               asks(&ToviTraffic::backups));
+  commands.add("get-backups-times", "Read how the last backup went",
+               asks(&ToviTraffic::getBackupsTimes));
+  commands.add("get-log-zip-path", "Read where the controller's log archive is",
+               asks(&ToviTraffic::getLogZipPath));
+  commands.add("remove-app-page-name", "Remove an app", sets(&ToviTraffic::removeAppPageName),
+               text("PACKAGE", "Its package name, 1 to 256 bytes", 1, 256));
+  commands.add("set-ssh-enabled", "Switch remote shell access", sets(&ToviTraffic::setSSHEnabled),
+               onOff("STATE", "on or off"));
+  commands.add("get-ssh-enabled", "Whether there is remote shell access",
+               asksFlag(&ToviTraffic::getSSHEnabled));
+}
+
+constexpr std::size_t kKeyBytes = 8;
+
+struct SecureMode {
+  int mode = 0;
+  std::string key;  // empty in mode 0, which has none
+};
+
+SecureMode parseSecureMode(const std::vector<std::string>& words) {
+  const std::string& given = words.front();
+  const std::size_t colon = std::min(given.find(':'), given.size());
+  const SecureMode mode{numberWithin(given.substr(0, colon), 0, 255),
+                        string_To_UTF8(given.substr(std::min(colon + 1, given.size())))};
+  const bool keyless = mode.mode == 0 && colon == given.size();
+  if (!keyless && (mode.mode == 0 || mode.key.size() != kKeyBytes)) {
+    throw Unusable(quoted(given) + " is neither 0 nor a mode and a key as in 1:12345678");
+  }
+  return mode;
+}
+
+Result setSecureMode(Call& call, const std::string& label, const SecureMode& mode, bool enable,
+                     const std::string& secondKey) {
+  const DeviceSecretParam param{label, mode.mode, enable, mode.key, secondKey};
+  return ofCode(call.traffic, call.traffic.setDeviceSecretParam(param, !secondKey.empty()));
+}
+
+void addSecurityCommands(Commands& commands) {
+  commands.group("Secure mode");
+  commands.add("get-is-secret", "Whether the controller expects enciphered traffic",
+               asksFlag(&ToviTraffic::getIsSecret));
+  commands.add("set-device-key", "Set the controller's key", sets(&ToviTraffic::setDeviceKey),
+               text("KEY", "The key"));
+  const Argument<SecureMode> mode{"MODE", "0, or 1 to 255 with a key of 8 bytes, as in 1:12345678",
+                                  parseSecureMode};
+  Argument<std::string> secondKey =
+      text("SECOND_KEY", "A second key of 8 bytes", kKeyBytes, kKeyBytes);
+  secondKey.required = false;
+  commands.add("set-device-secret-param", "Configure secure mode", setSecureMode,
+               text("LABEL", "1 to 16 bytes", 1, 16), mode, onOff("STATE", "on or off"), secondKey);
 }
 
 }  // namespace
 
 void addDeviceCommands(Commands& commands) {
-  addScreenCommands(commands);
-  addIdentityCommands(commands);
   addMaintenanceCommands(commands);
+  addSecurityCommands(commands);
 }
 
 }  // namespace tovi::cli

@@ -1,0 +1,37 @@
+#include "cli/reading.h"
+
+#include <charconv>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+namespace tovi::cli {
+
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+std::optional<int> parseNumber(std::string_view text, int most) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  return whole && text.front() != '-' && number <= most ? std::optional(number) : std::nullopt;
+}
+
+int numberWithin(const std::string& word, int least, int most) {
+  const std::optional<int> number = parseNumber(word, most);
+  if (!number || *number < least) {
+    throw Unusable(quoted(word) + " is no number from " + std::to_string(least) + " to " +
+                   std::to_string(most));
+  }
+  return *number;
+}
+
+std::optional<std::string> readText(const std::string& path) {
+  std::ifstream file;
+  if (path != "-") file.open(path, std::ios::binary);
+  std::istream& stream = path == "-" ? std::cin : file;
+  if (!stream) return std::nullopt;
+  std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  return stream.bad() ? std::nullopt : std::optional(std::move(text));
+}
+
+}  // namespace tovi::cli

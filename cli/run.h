@@ -1,0 +1,34 @@
+// Running the chosen command; each gives the program's exit status.
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+#include "cli/commands.h"
+#include "cli/options.h"
+
+namespace tovi::cli {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+// What a run needs to know. Results go to a stream of their own, since the library prints lines to
+// the standard output.
+struct Job {
+  const Options& options;
+  const Commands& commands;
+  std::FILE* results;
+};
+
+int runOne(const Job& job);
+int runMany(const Job& job);
+int runListening(const Job& job);
+
+// Runs it on one controller; a failure of the program's own becomes a result too.
+Result resultOf(const Job& job, Call& call);
+
+// Runs it on the one controller there is, and prints the result.
+int runAlone(const Job& job, ToviTraffic& traffic, const std::string& controller);
+
+}  // namespace tovi::cli

@@ -1,0 +1,52 @@
+#include <exception>
+
+#include "cli/run.h"
+#include "platform/console.h"
+
+namespace tovi::cli {
+namespace {
+
+void printLine(std::FILE* results, const std::string& text) {
+  const std::string line = text + '\n';
+  std::fwrite(line.data(), 1, line.size(), results);  // texts may hold zero bytes
+}
+
+void print(const Job& job, const std::string& controller, const Result& result) {
+  const bool empty = result.value.is_array() && result.value.empty();
+  if (job.options.json) {
+    printLine(job.results, asJson(controller, result));
+  } else if (result.done && !empty && !(job.options.quiet && result.value.is_null())) {
+    printLine(job.results, asText(result.value));
+  }
+  if (!result.done) {
+    std::fprintf(stderr, "tovi: %s %s: %s\n", controller.c_str(), job.commands.chosen().c_str(),
+                 failureText(result).c_str());
+  }
+}
+
+}  // namespace
+
+Result resultOf(const Job& job, Call& call) try {
+  setUp(call.traffic, job.options);
+  return job.commands.run(call);
+} catch (const std::exception& error) {
+  Result result;
+  result.trouble = error.what();
+  return result;
+}
+
+int runAlone(const Job& job, ToviTraffic& traffic, const std::string& controller) {
+  Call call{traffic, controller};
+  if (!job.options.quiet && platform::isTerminal(stderr)) call.progress = stderr;
+  const Result result = resultOf(job, call);
+  print(job, controller, result);
+  return result.done ? kDone : kFailed;
+}
+
+int runOne(const Job& job) {
+  const Endpoint& endpoint = *job.options.controller;
+  ToviTraffic traffic(endpoint.address.c_str(), endpoint.port);
+  return runAlone(job, traffic, endpointText(endpoint));
+}
+
+}  // namespace tovi::cli
