@@ -1,4 +1,6 @@
 // The picture: resolution, video input, fonts, broken pixels, and what is playing.
+#include <climits>
+
 #include "cli/commands.h"
 
 namespace tovi::cli {

@@ -7,7 +7,8 @@
 namespace tovi::cli {
 namespace {
 
-// An option whose text becomes a value through `parse`; `complaint` says what the text is not.
+// An option whose text becomes a value through `parse`; `complaint` says what it should have been,
+// without the text, which may be secret.
 template <class Value, class Target>
 CLI::Option* addParsed(CLI::App& app, const std::string& name, const std::string& help,
                        Target& target, std::optional<Value> (*parse)(std::string_view),
@@ -16,7 +17,7 @@ CLI::Option* addParsed(CLI::App& app, const std::string& name, const std::string
       name,
       [name, parse, complaint, &target](const std::string& text) {
         const std::optional<Value> value = parse(text);
-        if (!value) throw CLI::ValidationError(name, quoted(text) + " is " + complaint);
+        if (!value) throw CLI::ValidationError(name, complaint);
         target = *value;
       },
       help);
@@ -66,7 +67,7 @@ void addTargets(CLI::App& app, Options& options) {
 
 void addSessionOptions(CLI::App& app, Options& options) {
   addParsed<Key>(app, "--key", "Encipher the exchange: des, aes or sm4, and exactly 8 characters",
-                 options.key, parseKey, "no key: des:, aes: or sm4: and exactly 8 characters")
+                 options.key, parseKey, "a key is des:, aes: or sm4: and exactly 8 characters")
       ->type_name("CIPHER:PASSWORD");
   addNumber(app, "--timeout",
             "Limit of each send and each read, 0 to 3600000 ms; 0 waits for ever,\n"
@@ -105,7 +106,8 @@ CLI::App* addOptions(CLI::App& app, Options& options) {
   addParsed<Endpoint>(*listen, "PORT",
                       "Where to wait, as in 5005, or 192.168.1.2:5005 for one address of this\n"
                       "machine; port 0: any free one",
-                      options.listen, parseListenEndpoint, "no port")
+                      options.listen, parseListenEndpoint,
+                      "a port is 0 to 65535, alone or behind an IPv4 address and a colon")
       ->required();
   addNumber(*listen, "--wait",
             "Give up after so long, 0 to 86400000 ms; 0 waits for ever, 60000 unless given",

@@ -26,7 +26,8 @@ long long offsetMs(std::string_view text) {
 
 // The day of the month where the controller stands.
 std::uint8_t localDay(const WallClock& clock) {
-  const std::chrono::sys_time local{std::chrono::milliseconds(clock.time + offsetMs(clock.offset))};
+  const std::chrono::sys_time<std::chrono::milliseconds> local{
+      std::chrono::milliseconds(clock.time + offsetMs(clock.offset))};
   const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(local));
   return static_cast<std::uint8_t>(static_cast<unsigned>(day.day()));
 }

@@ -84,7 +84,7 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-Answer confirmUpload(Session::Upload& upload, Session& session) {
+Answer confirmUpload(Upload& upload, Session& session) {
   upload.whole = false;
   if (upload.file == nullptr) return lastWord("told again", upload.kept);
   const auto file = std::move(upload.file);
@@ -95,7 +95,7 @@ Answer confirmUpload(Session::Upload& upload, Session& session) {
                   true);
 }
 
-Answer refuseUpload(Session::Upload& upload) {
+Answer refuseUpload(Upload& upload) {
   upload.whole = false;
   upload.file.reset();
   upload.kept = false;

@@ -5,7 +5,7 @@
 
 namespace tovi::sim {
 
-Answer confirmUpload(Session::Upload& upload, Session& session);
-Answer refuseUpload(Session::Upload& upload);
+Answer confirmUpload(Upload& upload, Session& session);
+Answer refuseUpload(Upload& upload);
 
 }  // namespace tovi::sim
