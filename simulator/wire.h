@@ -28,7 +28,8 @@ inline constexpr std::size_t kBodyOffset = 4;
 inline constexpr std::size_t kChecksumSize = 2;
 inline constexpr std::size_t kMinFrame = 7;
 
-// The longest frame of the protocol is 65535 payload bytes, all escaped; this leaves room.
+// The longest frame is a file chunk of 65535 bytes behind its number, all escaped; this leaves
+// room.
 inline constexpr std::size_t kMaxFrame = 200'000;
 
 // A command or reply as both ends mean it: a code of 8 or 16 bits and its data.

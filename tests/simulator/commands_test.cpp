@@ -100,7 +100,6 @@ const Talk kTalks[] = {
       {0xA5, words(R"({"displayMode":1,"width":"x","height":1,"refreshRate":60})"), "A5: 00"},
       {0xA5, words(R"({"displayMode":1,"width":1,"height":1})"), "A5: 00"},
       {0xA5, words(R"({"displayMode":1,"width":1,"height":1,"refreshRate":60)"), "A5: 00"},
-      {0xA5, words("{}{}"), "A5: 00"},
       {0xA5, "", "A5: 00"},
       {0x82, "", "83: 80 07 38 04"}}},
     {"EDID and video source",
@@ -112,6 +111,10 @@ const Talk kTalks[] = {
        "A3: 01"},
       {0xA1, "", "A1: " + told(R"({"videoSource":3})")},
       {0xA3, words(R"({"videoSource":4})"), "A3: 00"},
+      {0xA3, words(R"({"videoSource":1}{})"), "A3: 00"},
+      {0xA3, words(R"({"a":"\","videoSource":1})"), "A3: 00"},
+      {0xA3, words(R"( { "a" : "" , "videoSource" : "2" } )"), "A3: 01"},
+      {0xA1, "", "A1: " + told(R"({"videoSource":2})")},
       {0xE7, "",
        "E7: " + told(R"([{"id":0,"name":"internal"},{"id":1,"name":"hdmi1"},)"
                      R"({"id":2,"name":"hdmi2"},{"id":3,"name":"dvi"}])")}}},
@@ -188,6 +191,9 @@ const Talk kTalks[] = {
       {0x95, words("1,,B"), "95: 00"},
       {0x95, words("9223372036854775807,A,GMT+08:00"), "95: 00"},
       {0x96, "", "96: " + words("1709179201000,Asia/Shanghai,GMT+08:00") + " 00"},
+      {0x95, words("1,A,GMT-05:30"), "95: 01"},
+      {0x09, "B2 07 01 01 00 00 00", "0A: 01"},  // the first midnight of 1970
+      {0x96, "", "96: " + words("19800000,A,GMT-05:30") + " 00"},
       {0x97, "01 " + words("n.tp"), "97: 01"},
       {0x98, "", "98: 01 " + words("n.tp") + " 00"},
       {0x97, "00", "97: 01"},
@@ -207,6 +213,8 @@ const Talk kTalks[] = {
       {0x70, "00 01 91 21 00", "71: 00"},
       {0x70, "00 02 6C 91 21", "71: 00"},
       {0x10C, "", "01 0C: 01"},
+      {0x70, "00 01 6C 91 21 6C 91 21", "71: 01"},  // a label that holds the separator
+      {0x10C, "", "01 0C: 00"},
       {0x70, "03 00 6C 91 21 " + words("12345678") + " 91 21 " + words("abcdefgh"), "71: 01"},
       {0x10C, "", "01 0C: 00"},
       {0x70, "00 01 " + words("0123456789abcdef") + " 91 21 91 21 " + words("abcdefgh"),
