@@ -4,8 +4,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 TOOL_PACKAGES=(g++ cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
-TEST_PACKAGES=(libgtest-dev)
-CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config)
+TEST_PACKAGES=(libgtest-dev locales mono-mcs libmono-i18n-cjk4.0-cil)
+CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config dpkg-dev file)
 
 install_missing() {
   local package missing=()
@@ -20,4 +20,14 @@ install_missing() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${missing[@]}" >/dev/null
+}
+
+# Locales of our own, for tests that want a Chinese one: few systems have it.
+use_test_locales() {
+  local codeset
+  export LOCPATH=$PWD/build/locales
+  mkdir -p "$LOCPATH"
+  for codeset in GBK UTF-8; do
+    [[ -d $LOCPATH/zh_CN.$codeset ]] || localedef -i zh_CN -f "$codeset" "$LOCPATH/zh_CN.$codeset"
+  done
 }
