@@ -1,12 +1,12 @@
 #include "cli/argument.h"
 
-#include <tovisdk/text.h>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "cli/endpoint.h"
 #include "cli/times.h"
+#include "platform/paths.h"
 
 namespace tovi::cli {
 namespace {
@@ -30,19 +30,23 @@ std::string textOfFile(const std::string& path) {
 
 std::string readablePath(const std::string& path) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error) || !std::ifstream(path)) {
+  const std::filesystem::path file = platform::pathOf(path);
+  if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
     throw Unusable("cannot read " + quoted(path));
   }
+  localPath(path);
   return path;
 }
 
 std::string writablePath(const std::string& path) {
   std::error_code error;
-  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-  if (path.empty() || std::filesystem::is_directory(path, error) ||
+  const std::filesystem::path file = platform::pathOf(path);
+  const std::filesystem::path folder = file.parent_path();
+  if (path.empty() || std::filesystem::is_directory(file, error) ||
       (!folder.empty() && !std::filesystem::is_directory(folder, error))) {
     throw Unusable("cannot write " + quoted(path));
   }
+  localPath(path);
   return path;
 }
 
@@ -77,7 +81,7 @@ Argument<bool> onOff(const std::string& name, const std::string& help) {
 Argument<std::string> text(const std::string& name, const std::string& help, std::size_t least,
                            std::size_t most) {
   return single(name, help, [least, most](const std::string& given) {
-    std::string text = string_To_UTF8(given);
+    std::string text = given;
     if (text.size() < least || text.size() > most) {
       throw Unusable("a text of " + std::to_string(text.size()) + " bytes, where " +
                      std::to_string(least) + " to " + std::to_string(most) + " are taken");
@@ -113,7 +117,7 @@ Argument<std::string> ipv4(const std::string& name, const std::string& help) {
 
 Argument<std::string> jsonArray(const std::string& name, const std::string& help) {
   return single(name, help, [](const std::string& given) {
-    std::string text = string_To_UTF8(given);
+    std::string text = given;
     if (!nlohmann::json::parse(text, nullptr, false).is_array()) {
       throw Unusable(quoted(given) + " is no JSON array");
     }

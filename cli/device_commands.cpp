@@ -62,7 +62,7 @@ SecureMode parseSecureMode(const std::vector<std::string>& words) {
   const std::string& given = words.front();
   const std::size_t colon = std::min(given.find(':'), given.size());
   const SecureMode mode{numberWithin(given.substr(0, colon), 0, 255),
-                        string_To_UTF8(given.substr(std::min(colon + 1, given.size())))};
+                        given.substr(std::min(colon + 1, given.size()))};
   const bool keyless = mode.mode == 0 && colon == given.size();
   if (!keyless && (mode.mode == 0 || mode.key.size() != kKeyBytes)) {
     throw Unusable(quoted(given) + " is neither 0 nor a mode and a key as in 1:12345678");

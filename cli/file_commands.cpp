@@ -4,6 +4,7 @@
 #include "cli/commands.h"
 #include "cli/interrupt.h"
 #include "cli/progress.h"
+#include "platform/paths.h"
 
 namespace tovi::cli {
 namespace {
@@ -17,7 +18,8 @@ Result sendFile(Call& call, const std::string& path, const std::string& name) {
     bar.show(sent, total);
     return !interrupted();
   };
-  return ofCode(call.traffic, call.traffic.sendFile(path.c_str(), name.c_str(), progress));
+  return ofCode(call.traffic,
+                call.traffic.sendFile(localPath(path).c_str(), name.c_str(), progress));
 }
 
 // Several controllers must not write one file: each gets its address before the extension.
@@ -25,13 +27,15 @@ std::string picturePath(const Call& call, const std::string& path) {
   if (!call.several) return path;
   std::string address = call.controller;
   address[address.find(':')] = '_';  // means something else in a file name on some systems
-  const std::filesystem::path whole(path);
-  return (whole.parent_path() / (whole.stem().string() + "-" + address)).string() +
-         whole.extension().string();
+  const std::filesystem::path whole = platform::pathOf(path);
+  std::filesystem::path name = whole.stem();
+  name += "-" + address;
+  name += whole.extension();
+  return platform::utf8Of(whole.parent_path() / name);
 }
 
 Result getScreenshot(Call& call, const std::string& path) {
-  return ofCode(call.traffic, call.traffic.getDeviceScreenshot(picturePath(call, path)));
+  return ofCode(call.traffic, call.traffic.getDeviceScreenshot(localPath(picturePath(call, path))));
 }
 
 void addTransferCommands(Commands& commands) {

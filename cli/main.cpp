@@ -44,6 +44,7 @@ std::string complaintOf(const CLI::App& app, const Options& options, const CLI::
 }  // namespace
 
 int main(int argc, char** argv) try {
+  tovi::platform::showUtf8();
   CLI::App app("Sets and reads LED display controllers.", "tovi");
   Options options;
   setHelpFormat(app);
@@ -57,7 +58,9 @@ int main(int argc, char** argv) try {
   addNetworkCommands(commands);
   addDeviceCommands(commands);
   try {
-    app.parse(argc, argv);
+    const std::vector<std::string> words = tovi::platform::commandLineWords(argc, argv);
+    // Which takes them from the back.
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend() - 1));
     checkOptions(options);
   } catch (const CLI::Success& request) {  // --help, --version
     return app.exit(request);

@@ -127,7 +127,7 @@ void checkOptions(const Options& options) {
 
 void setUpLog(const Options& options) {
   tovi_set_log_level(options.logLevel);
-  if (!options.logDir.empty()) tovi_set_log_folder(options.logDir.c_str());
+  if (!options.logDir.empty()) tovi_set_log_folder(UTF8_To_string(options.logDir).c_str());
 }
 
 void setUp(ToviTraffic& traffic, const Options& options) {

@@ -1,9 +1,13 @@
 #include "cli/reading.h"
 
+#include <tovisdk/text.h>
+
 #include <charconv>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+
+#include "platform/paths.h"
 
 namespace tovi::cli {
 
@@ -25,9 +29,16 @@ int numberWithin(const std::string& word, int least, int most) {
   return *number;
 }
 
+std::string localPath(const std::string& path) {
+  std::string local = UTF8_To_string(path);
+  // What cannot be converted comes back as it was, and is another name then.
+  if (string_To_UTF8(local) == path) return local;
+  throw Unusable(quoted(path) + " has characters that the local code page lacks");
+}
+
 std::optional<std::string> readText(const std::string& path) {
   std::ifstream file;
-  if (path != "-") file.open(path, std::ios::binary);
+  if (path != "-") file.open(platform::pathOf(path), std::ios::binary);
   std::istream& stream = path == "-" ? std::cin : file;
   if (!stream) return std::nullopt;
   std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};

@@ -21,6 +21,10 @@ std::optional<int> parseNumber(std::string_view text, int most);
 // Throws Unusable.
 int numberWithin(const std::string& word, int least, int most);
 
+// A path as the library takes it, which is in the local code page. Throws Unusable when that lacks
+// a character.
+std::string localPath(const std::string& path);
+
 // The whole file, or standard input for "-"; nothing when it cannot be read.
 std::optional<std::string> readText(const std::string& path);
 

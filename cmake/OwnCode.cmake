@@ -17,6 +17,8 @@ endif()
 
 # Which half of src/platform is built, and what it links.
 if(WIN32)
+  # A program finds a DLL that lies beside it.
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
   set(tovi_platform_folder win32)
   set(tovi_platform_libraries ws2_32)
 else()

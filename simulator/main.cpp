@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/console.h"
+#include "platform/paths.h"
 #include "simulator/server.h"
 
 namespace {
@@ -113,12 +115,14 @@ Options optionsOf(const CommandLine& line) {
 
 // Appears at once and whole, since a script may be waiting for it.
 bool writePortFile(const std::string& path, std::uint16_t port) {
-  const std::string unfinished = path + ".new";
+  const std::filesystem::path whole = tovi::platform::pathOf(path);
+  std::filesystem::path unfinished = whole;
+  unfinished += ".new";
   std::ofstream file(unfinished);
   file << port << '\n';
   file.close();
   std::error_code error;
-  if (file) std::filesystem::rename(unfinished, path, error);
+  if (file) std::filesystem::rename(unfinished, whole, error);
   if (file && !error) return true;
   std::filesystem::remove(unfinished, error);
   return false;
@@ -150,13 +154,16 @@ int serve(const CommandLine& line, Options options) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  tovi::platform::showUtf8();
   CLI::App app("A simulated display controller: answers hosts and prints each exchange.",
                "tovisim");
   CommandLine line;
   addOptions(app, line);
   Options options;
   try {
-    app.parse(argc, argv);
+    const std::vector<std::string> words = tovi::platform::commandLineWords(argc, argv);
+    // Which takes them from the back.
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend() - 1));
     options = optionsOf(line);
   } catch (const CLI::Success& request) {  // --help, --version
     return app.exit(request);

@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/paths.h"
+
 namespace tovi::sim {
 namespace {
 
@@ -11,13 +13,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMaxName = 255;
 constexpr std::size_t kMaxFiles = 10'000;
-
-fs::path asPath(const std::string& utf8) { return std::u8string(utf8.begin(), utf8.end()); }
-
-std::string asName(const fs::path& path) {
-  const std::u8string name = path.filename().u8string();
-  return {name.begin(), name.end()};
-}
 
 const char* chars(View bytes) { return reinterpret_cast<const char*>(bytes.data()); }
 
@@ -44,14 +39,15 @@ void Storage::prepareFolder() {
   // volume, so that a finished file moves in one step.
   fs::create_directories(unfinishedFolder());
   for (const fs::directory_entry& entry : fs::directory_iterator(unfinishedFolder())) {
-    const bool ours = asName(entry.path()).find_first_not_of("0123456789") == std::string::npos;
+    const bool ours = platform::utf8Of(entry.path().filename()).find_first_not_of("0123456789") ==
+                      std::string::npos;
     if (ours && entry.is_regular_file()) fs::remove(entry.path());
   }
 }
 
 void Storage::takeUp() {
   for (const fs::directory_entry& entry : fs::directory_iterator(pathOf({}))) {
-    const std::string name = asName(entry.path());
+    const std::string name = platform::utf8Of(entry.path().filename());
     if (!entry.is_regular_file() || !isPlainName(name)) continue;
     File& file = mFiles[name];
     file.size = entry.file_size();
@@ -60,10 +56,12 @@ void Storage::takeUp() {
 }
 
 fs::path Storage::pathOf(const std::string& name) const {
-  return fs::path(mOptions.folder) / "files" / asPath(name);
+  return platform::pathOf(mOptions.folder) / "files" / platform::pathOf(name);
 }
 
-fs::path Storage::unfinishedFolder() const { return fs::path(mOptions.folder) / "unfinished"; }
+fs::path Storage::unfinishedFolder() const {
+  return platform::pathOf(mOptions.folder) / "unfinished";
+}
 
 std::unique_ptr<Incoming> Storage::begin(const std::string& name) {
   fs::path path;

@@ -196,7 +196,8 @@ void tovi_set_log_level(int level) { tovi::log::gThreshold = level; }
 void tovi_set_log_folder(const char* folder) {
   std::string chosen = folder == nullptr ? "" : folder;
   if (chosen.size() > tovi::log::kMaxFolder) {
-    tovi::log::error("tovi_set_log_folder folder is longer than %zu bytes", tovi::log::kMaxFolder);
+    tovi::log::error("tovi_set_log_folder folder is longer than %d bytes",
+                     static_cast<int>(tovi::log::kMaxFolder));
     return;
   }
   if (!chosen.empty() && chosen.back() != '/' && chosen.back() != tovi::platform::kPathSeparator) {

@@ -5,18 +5,21 @@
 #include <array>
 #include <cctype>
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <future>
+#include <iomanip>
 #include <iterator>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <sstream>
 
 #include "device/command_table.h"
+#include "platform/paths.h"
+#include "platform/text.h"
 #include "simulator/server.h"
 #include "tests/simulator/literal.h"
+#include "tests/support/run_program.h"
 
 namespace tovi::cli {
 namespace {
@@ -56,14 +59,28 @@ class Cli : public testing::Test {
   }
   std::string path(const std::string& name) const { return (mFolder / name).string(); }
 
-  // Runs the program. `arguments` are as for a shell.
+  // Runs the program. Arguments are parted by spaces, but for those in quotes; what follows a "<"
+  // is the file that is standard input.
   Outcome run(const std::string& arguments) const {
-    const std::string out = path("out"), err = path("err");
-    const std::string command =
-        "\"" TOVI_PROGRAM "\" " + arguments + " >\"" + out + "\" 2>\"" + err + "\"";
-    const int status = std::system(command.c_str());
-    // Where a status has more than the exit code, that stands in the second byte.
-    return {status > 0xFF ? status >> 8 : status, contentOf(out), contentOf(err)};
+    test::Streams streams{"", path("out"), path("err")};
+    std::vector<std::string> words;
+    std::istringstream rest(arguments);
+    while (rest >> std::ws, !rest.eof()) {
+      std::string& word = words.emplace_back();
+      if (rest.peek() == '"') {
+        rest >> std::quoted(word);
+      } else {
+        rest >> word;
+      }
+      if (word.starts_with('<')) {
+        streams.in = word.substr(1);
+        words.pop_back();
+      }
+    }
+    const int status = test::runProgram(TOVI_PROGRAM, words, streams);
+    std::string messages = contentOf(streams.err);
+    std::erase(messages, '\r');  // the system's line ends
+    return {status, contentOf(streams.out), std::move(messages)};
   }
 
   sim::Simulator& startController(sim::Options options = {}) {
@@ -383,6 +400,21 @@ TEST_F(Cli, SendsAFile) {
   EXPECT_NE(refused.err.find("refused by the controller in the middle of the file (-6)"),
             std::string::npos)
       << refused.err;
+}
+
+TEST_F(Cli, SendsAFileThatHasAChineseName) {
+  auto& controller = startController();
+  const std::string name = "\xE5\xB1\x8F.bin";
+  const std::string whole = path("") + name;
+  std::ofstream(platform::pathOf(whole)) << "x";
+  const Outcome outcome = run(addressOf(controller) + " send-file " + whole + " " + name);
+  if (platform::utf8ToLocal(name)) {
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(controller.controller().files().read(name), sim::bytesOf("x"));
+  } else {
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_NE(outcome.err.find("that the local code page lacks"), std::string::npos);
+  }
 }
 
 TEST_F(Cli, SendsAPlaylistFromAFileOrStandardInput) {

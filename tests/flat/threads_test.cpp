@@ -12,6 +12,7 @@
 #include <tovisdk/log.h>
 
 #include "simulator/server.h"
+#include "tests/transfer/temporary_folder.h"
 
 namespace {
 
@@ -39,35 +40,48 @@ int brokenRecords(const std::filesystem::path& folder) {
   return broken;
 }
 
-TEST(FlatThreads, GetTheirOwnAnswers) {
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / "tovi_flat_threads_log";
-  std::filesystem::remove_all(folder);
-  tovi_set_log_folder(folder.string().c_str());
-  tovi_set_log_level(0);
+class FlatThreads : public testing::Test {
+ protected:
+  FlatThreads() {
+    tovi_set_log_folder(mFolder.path().c_str());
+    tovi_set_log_level(0);
+  }
+  ~FlatThreads() override {
+    tovi_set_log_level(4);
+    tovi_set_log_folder(nullptr);
+  }
 
-  tovi::sim::Options options;
+  template <class Host>
+  static void runThreads(const Host& host) {
+    std::vector<std::thread> hosts;
+    for (int i = 0; i < kThreads; ++i) hosts.emplace_back(host);
+    for (std::thread& thread : hosts) thread.join();
+  }
 
-  tovi::sim::Simulator simulator(options);
+  tovi::test::TemporaryFolder mFolder;
+};
+
+TEST_F(FlatThreads, GetTheirOwnAnswers) {
+  tovi::sim::Simulator simulator({});
   ASSERT_TRUE(simulator.start());
   const std::string serial = taken(getSn("127.0.0.1", simulator.port()));
   std::atomic<int> wrong{0};
-  std::vector<std::thread> hosts;
-  for (int i = 0; i < kThreads; ++i) {
-    hosts.emplace_back([&] {
-      for (int call = 0; call < kCallsEach; ++call) {
-        if (taken(getSn("127.0.0.1", simulator.port())) != serial) ++wrong;
-        if (std::string(setBrightness("127.0.0.1", simulator.port(), 7)) != "success") ++wrong;
-      }
-    });
-  }
-  for (std::thread& host : hosts) host.join();
-  tovi_set_log_level(4);
-  tovi_set_log_folder(nullptr);
-
+  runThreads([&] {
+    for (int call = 0; call < kCallsEach; ++call) {
+      if (taken(getSn("127.0.0.1", simulator.port())) != serial) ++wrong;
+      if (std::string(setBrightness("127.0.0.1", simulator.port(), 7)) != "success") ++wrong;
+    }
+  });
   EXPECT_EQ(wrong, 0);
-  EXPECT_EQ(brokenRecords(folder), 0);
-  std::filesystem::remove_all(folder);
+}
+
+TEST_F(FlatThreads, LogWholeRecords) {
+  // Refused before anything is sent, which writes records at full speed.
+  runThreads([] {
+    for (int call = 0; call < kCallsEach; ++call) setDeviceName("127.0.0.1", 0, nullptr);
+  });
+  EXPECT_EQ(brokenRecords(mFolder.path()), 0);
+  EXPECT_FALSE(std::filesystem::is_empty(mFolder.path()));
 }
 
 }  // namespace

@@ -259,7 +259,6 @@ constexpr Misbehaviour kMisbehaviours[] = {
     {"wrong-key", "sm4:12345678",
      "AA FF FF 08 E8 C7 D7 68 9B 01 08 6A 31 3A E7 AF CA E2 1D 30 CC 6D CA"},
     {"close-before", "none", "", End::Close},
-    {"reset", "none", "", End::Reset},
     {"close-inside", "none", "AA FF FF 08", End::Close},
     {"close-after", "none", kAccepted, End::Close},
 };
@@ -283,6 +282,14 @@ TEST(SimFaults, ShowOnTheWireForAsLongAsTold) {
     next.send("AA FF FF EF 0C 01 CC 5E C1");
     next.expect(plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
   }
+}
+
+TEST(SimFaults, ResetTheConnection) {
+  Simulator simulator(faulty({"reset"}));
+  ASSERT_TRUE(simulator.start());
+  Host host(simulator.port());
+  host.send(kSetBrightness);
+  EXPECT_EQ(host.end(), End::Reset);
 }
 
 TEST(SimFaults, LeaveWhatFollowsUnheard) {

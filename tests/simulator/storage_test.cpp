@@ -112,12 +112,18 @@ TEST(StorageFolder, ThatCannotBeOneIsAnError) {
 TEST(StorageFolder, ThatIsGoneIsNoRoom) {
   const TemporaryFolder folder;
   Storage storage({folder.path("state")});
-  const auto file = storage.begin("a");
-  file->append(bytesOf("x"));
   std::filesystem::remove_all(folder.path("state"));
-  EXPECT_FALSE(file->keep());
   EXPECT_EQ(storage.begin("b"), nullptr);
   EXPECT_TRUE(storage.names().empty());
+}
+
+TEST(StorageFolder, WhoseNameIsTakenIsNoRoom) {
+  const TemporaryFolder folder;
+  Storage storage({folder.path("state")});
+  const auto file = storage.begin("a");
+  file->append(bytesOf("x"));
+  std::filesystem::create_directories(folder.path("state") + "/files/a/occupied");
+  EXPECT_FALSE(file->keep());
 }
 
 }  // namespace

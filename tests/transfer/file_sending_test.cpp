@@ -183,8 +183,8 @@ TEST_F(FileSending, LeavesTheHostsOwnSocketOpen) {
 
 TEST_F(FileSending, FindsOutAboutTheFileOnceTheNameIsAcknowledged) {
   // The last one is a folder that claims to be of no size, where there is such a thing.
-  for (const std::string& path :
-       {mFolder.path("missing"), mFolder.path(), std::string(), std::string("/proc/self")}) {
+  for (const std::string& path : {mFolder.path("missing"), mFolder.path(), std::string(),
+                                  std::string("/proc/self"), mFolder.path(std::string(300, 'x'))}) {
     acceptFile(1);
     EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin"), -13) << path;
     EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);

@@ -25,6 +25,7 @@ TEST_F(LocalFiles, AreMadeAndEmptied) {
   EXPECT_TRUE(std::filesystem::exists(path("b")));
   EXPECT_FALSE(createEmptyFile(path("missing/b").c_str()));
   EXPECT_FALSE(createEmptyFile(mFolder.path().c_str()));
+  EXPECT_FALSE(createEmptyFile(path(std::string(300, 'x')).c_str()));  // no system has such names
   EXPECT_FALSE(createEmptyFile(""));
   EXPECT_FALSE(createEmptyFile(nullptr));
 }
@@ -56,6 +57,7 @@ TEST_F(LocalFiles, AreReadWholeAndEndWithAZero) {
   EXPECT_EQ(readFile(path("missing").c_str()), nullptr);
   EXPECT_EQ(readFile(mFolder.path().c_str()), nullptr);
   EXPECT_EQ(readFile(""), nullptr);
+  EXPECT_EQ(readFile(path(std::string(300, 'x')).c_str()), nullptr);
   EXPECT_EQ(readFile("/proc/self"), nullptr);  // a folder that claims to be of no size, or nothing
   EXPECT_EQ(readFile(nullptr), nullptr);
 }

@@ -90,8 +90,7 @@ TEST_F(Screenshot, ThatNeverEndsIsGivenUp) {
   GTEST_SKIP() << "a quarter of a gigabyte takes minutes under a sanitizer";
 #endif
   tovi_set_log_level(4);
-  const std::string sink = "/dev/null";
-  if (!std::filesystem::exists(sink)) GTEST_SKIP() << "nothing to write so much to";
+  const std::string sink = std::filesystem::exists("/dev/null") ? "/dev/null" : "NUL";
   const std::string piece = fullPiece();
   for (int i = 0; i < 4097; ++i) fake().arrive(piece);
   EXPECT_EQ(mTraffic.getDeviceScreenshot(sink), -11);

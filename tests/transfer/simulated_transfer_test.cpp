@@ -63,6 +63,9 @@ TEST(SimulatedTransferNames, MayHave255Bytes) {
   EXPECT_EQ(simulator.controller().files().read(longest), tovi::sim::bytesOf("content"));
 }
 
+// Without it, the tests are named after the bytes of the record, which change with every start.
+void PrintTo(const Session& session, std::ostream* stream) { *stream << session.key; }
+
 INSTANTIATE_TEST_SUITE_P(Ciphers, SimulatedTransfer,
                          testing::Values(Session{"plain", nullptr, 65535},
                                          Session{"des:k3y-4567", &ToviTraffic::setDesKey, 65517},

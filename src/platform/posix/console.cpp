@@ -17,6 +17,12 @@ bool pointAtNothing(int descriptor) {
 
 }  // namespace
 
+std::vector<std::string> commandLineWords(int count, const char* const* words) {
+  return {words, words + count};
+}
+
+void showUtf8() {}
+
 std::FILE* takeStandardOutput() {
   std::fflush(stdout);
   // Above the standard streams, even where one of those is closed.

@@ -1,7 +1,15 @@
 #include "platform/console.h"
 
+#include <windows.h>
+
+#include <shellapi.h>  // wants the former
+
 #include <fcntl.h>
 #include <io.h>
+
+#include <cstdlib>
+
+#include "platform/win32/wide.h"
 
 namespace tovi::platform {
 
@@ -15,7 +23,31 @@ bool pointAtNothing(int descriptor) {
   return pointed;
 }
 
+UINT gConsoleCodePage = 0;
+
+void restoreConsole() { ::SetConsoleOutputCP(gConsoleCodePage); }
+
 }  // namespace
+
+// The words that main is given are in the local code page, which may lack what was typed, and have
+// had their wildcards replaced.
+std::vector<std::string> commandLineWords(int count, const char* const* words) {
+  int wideCount = 0;
+  wchar_t** const wideWords = ::CommandLineToArgvW(::GetCommandLineW(), &wideCount);
+  if (wideWords == nullptr) return {words, words + count};
+  std::vector<std::string> result;
+  for (int i = 0; i < wideCount; ++i)
+    result.push_back(fromWide(CP_UTF8, wideWords[i]).value_or(""));
+  ::LocalFree(wideWords);
+  return result;
+}
+
+void showUtf8() {
+  // The code page is the console's, not the process's: others go on using it.
+  gConsoleCodePage = ::GetConsoleOutputCP();
+  if (gConsoleCodePage == 0 || gConsoleCodePage == CP_UTF8) return;
+  if (::SetConsoleOutputCP(CP_UTF8)) std::atexit(restoreConsole);
+}
 
 std::FILE* takeStandardOutput() {
   std::fflush(stdout);

@@ -24,6 +24,7 @@ std::tm localTime(std::time_t time) {
 std::string executableFolder() {
   char path[MAX_PATH];
   const DWORD length = ::GetModuleFileNameA(nullptr, path, MAX_PATH);
+  if (length == MAX_PATH) return {};  // cut off
   const std::string whole(path, length);
   return whole.substr(0, whole.rfind('\\') + 1);
 }

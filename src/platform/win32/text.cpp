@@ -1,14 +1,10 @@
 #include "platform/text.h"
 
-#include <windows.h>
-
 #include <climits>
 
+#include "platform/win32/wide.h"
+
 namespace tovi::platform {
-
-namespace {
-
-constexpr UINT kGbk = 936;
 
 std::optional<std::wstring> toWide(UINT codePage, const std::string& text) {
   if (text.empty()) return std::wstring();
@@ -39,6 +35,10 @@ std::optional<std::string> fromWide(UINT codePage, const std::wstring& wide) {
   return text;
 }
 
+namespace {
+
+constexpr UINT kGbk = 936;
+
 // CP_ACP by its number, because it may be UTF-8.
 UINT localCodePage() { return ::GetACP(); }
 
@@ -58,9 +58,11 @@ std::optional<std::string> utf8ToLocal(const std::string& text) {
 }
 
 std::optional<std::string> utf8ToGbk(const std::string& text) {
-  const auto wide = toWide(CP_UTF8, text);
+  auto wide = toWide(CP_UTF8, text);
   if (!wide) return std::nullopt;
   if (wide->empty() || wide->size() > INT_MAX) return std::string();
+  // GBK has no character beyond the first 65,536; as a pair of halves, each would cost a "?".
+  std::erase_if(*wide, [](wchar_t c) { return IS_LOW_SURROGATE(c); });
   const int size = static_cast<int>(wide->size());
   const auto convert = [&](char* to, int room) {
     return ::WideCharToMultiByte(kGbk, WC_NO_BEST_FIT_CHARS, wide->data(), size, to, room, "?",
