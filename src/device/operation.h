@@ -55,14 +55,15 @@ class Operation {
   // Sends a query and gives one byte of its reply, signed; `otherwise` when there is none.
   int askByte(int n, int otherwise, std::string payload = {});
 
+  // False, with the outcome of a refusal, when the payload does not fit a frame.
+  bool fits(const std::string& payload);
+
   ToviOutcome outcome() const { return mTraffic.lastOutcome(); }
 
   // Ends the operation before anything is sent: says why in the log and gives -15.
   int refuse(const char* why);
 
  private:
-  bool fits(const std::string& payload);
-
   ToviTraffic& mTraffic;
   const Command& mCommand;
 };

@@ -85,8 +85,11 @@ std::list<Entry>* askList(Operation operation) {
   return list.release();
 }
 
-int setBrightnessMode(Operation operation, int mode) {
-  return operation.step(command("setBrightness"), bytes({mode, 0}));
+// The mode goes first, unless what shall follow it cannot.
+int setInMode(Operation operation, int mode, const std::string& payload) {
+  if (!operation.fits(payload)) return ToviTraffic::ARGUMENT_ERROR;
+  const int result = operation.step(command("setBrightness"), bytes({mode, 0}));
+  return result == ToviTraffic::SUCCESS ? operation.set(payload) : result;
 }
 
 }  // namespace
@@ -108,9 +111,8 @@ std::list<PlayByTimeParam>* ToviTraffic::getPlayByTimeList() {
 }
 
 int ToviTraffic::setBrightnessByTimeList(std::list<BrightnessByTimeParam> list) {
-  Operation operation(*this, command("setBrightnessByTimeList"));
-  const int result = setBrightnessMode(operation, kByTimetable);
-  return result == SUCCESS ? operation.set(encodeList(list)) : result;
+  return setInMode(Operation(*this, command("setBrightnessByTimeList")), kByTimetable,
+                   encodeList(list));
 }
 
 std::list<BrightnessByTimeParam>* ToviTraffic::getBrightnessByTimeList() {
@@ -120,13 +122,11 @@ std::list<BrightnessByTimeParam>* ToviTraffic::getBrightnessByTimeList() {
 int ToviTraffic::setBrightnessAuto(BrightnessItem* item) {
   Operation operation(*this, command("setBrightnessAuto"));
   if (item == nullptr) return operation.refuse("the curve is null");
-  const int result = setBrightnessMode(operation, kAutomatic);
-  if (result != SUCCESS) return result;
   std::string payload;
   for (const BrightnessPoint& point : item->points) {
     payload += bytes({point.environmentBrightness, point.screenBrightness, 0});
   }
-  return operation.set(payload);
+  return setInMode(operation, kAutomatic, payload);
 }
 
 BrightnessItem* ToviTraffic::getBrightnessAuto() {
