@@ -92,7 +92,16 @@ Answer refusalOf(const Row& row, View payload, std::string asked) {
 }
 
 Controller::Controller(State initial, Storage::Options files)
-    : mState(std::move(initial)), mFiles(std::move(files)) {}
+    : mState(std::move(initial)), mFiles(files) {
+  if (files.folder.empty() || !mFiles.error().empty()) return;
+  auto schedules = std::make_unique<Schedules>(files.folder + "/schedules");
+  for (const Message& request : schedules->requests()) handle(request);
+  mSchedules = std::move(schedules);
+}
+
+const std::string& Controller::error() const {
+  return mFiles.error().empty() && mSchedules != nullptr ? mSchedules->error() : mFiles.error();
+}
 
 Answer Controller::handle(const Message& request, Session& session) {
   const std::lock_guard lock(mMutex);
@@ -102,7 +111,13 @@ Answer Controller::handle(const Message& request, Session& session) {
   const Request asked{*row, request.payload, mState, mFiles, session};
   const std::size_t size = request.payload.size();
   const bool fits = size >= row->size.least && size <= row->size.most;
-  return found.row != nullptr && fits ? row->handler(asked) : asked.refuse();
+  if (found.row == nullptr || !fits) return asked.refuse();
+  const Timetables before = mState.timetables;
+  Answer answer = row->handler(asked);
+  if (mSchedules == nullptr || mState.timetables == before) return answer;
+  if (mSchedules->keep(row->command.method, request.payload)) return answer;
+  mState.timetables = before;
+  return asked.refuse("cannot be kept");
 }
 
 Answer Controller::handle(const Message& request) {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
+#include "simulator/schedules.h"
 #include "simulator/session.h"
 #include "simulator/state.h"
 #include "simulator/storage.h"
@@ -25,7 +27,11 @@ struct Answer {
 // Safe to use from several threads; a session is for one.
 class Controller {
  public:
+  // With a folder, its timetables are those of the last run.
   explicit Controller(State initial = {}, Storage::Options files = {});
+
+  // Why the folder is of no use; empty when all is well.
+  const std::string& error() const;
 
   Answer handle(const Message& request, Session& session);
 
@@ -52,6 +58,7 @@ class Controller {
   mutable std::mutex mMutex;
   State mState;
   Storage mFiles;
+  std::unique_ptr<Schedules> mSchedules;  // null: not kept
 };
 
 }  // namespace tovi::sim

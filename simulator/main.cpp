@@ -65,7 +65,8 @@ void addOptions(CLI::App& app, CommandLine& line) {
       ->type_name("KIND[=VALUE][@METHOD[#NTH]][:COUNT]")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  app.add_option("--state", line.state, "Keep files and playlists in a folder, not in memory")
+  app.add_option("--state", line.state,
+                 "Keep files, playlists and timetables in a folder, not in memory")
       ->type_name("DIR");
   app.add_flag("--frames", line.frames, "Take the frames of each exchange apart");
   app.add_flag("--quiet", line.quiet, "Print no exchanges");

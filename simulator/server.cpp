@@ -66,7 +66,7 @@ Simulator::~Simulator() { stop(); }
 bool Simulator::start() {
   const std::lock_guard lock(mStopMutex);
   if (mStarted) return false;
-  mError = mController.files().error();
+  mError = mController.error();
   if (!mError.empty()) return false;
   if (platform::startUpSockets() != platform::StartUp::Ready) {
     mError = "the socket layer does not start";

@@ -88,6 +88,23 @@ TEST(FileServer, DiscardsWhatAHostLeavesUnfinished) {
   host.expect("AA FF FF 14 01 00 00 CC 49 DD");
 }
 
+TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
+  const test::TemporaryFolder folder;
+  const auto list = literal("01 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17");
+  {
+    Controller controller({}, {folder.path()});
+    EXPECT_EQ(controller.handle({0x8A, list}).told, "accepted");
+    EXPECT_EQ(controller.handle({0x8A, literal("01 00")}).told, "refused");
+    EXPECT_EQ(controller.handle({0x41, literal("00")}).told, "accepted");
+    std::filesystem::create_directories(folder.path("schedules/files/setBrightnessAuto/occupied"));
+    EXPECT_EQ(controller.handle({0x17, Bytes(24, 7)}).told, "refused") << "it cannot be kept";
+    EXPECT_EQ(controller.state().timetables.brightnessCurve, Bytes(24, 0));
+  }
+  EXPECT_EQ(Controller({}, {folder.path()}).state().timetables.power, list);
+  std::ofstream(folder.path("schedules/files/setDevicePowerByTimeList")) << "damaged";
+  EXPECT_EQ(Controller({}, {folder.path()}).state().timetables, Timetables{});
+}
+
 TEST(FileServer, HasItsFolderAgainAfterARestart) {
   const test::TemporaryFolder folder;
   Options options;
