@@ -39,22 +39,6 @@ Answer resetDeviceIpToDefault(const Request& request) {
   return request.keepQuiet(dotted(request.state.network.basic.ip));
 }
 
-Answer setPingIp(const Request& request) {
-  return setText(request, request.state.network.pingAddress);
-}
-
-Answer getPingIp(const Request& request) {
-  return tellText(request, request.state.network.pingAddress);
-}
-
-Answer setServerIPLists(const Request& request) {
-  return setText(request, request.state.network.servers);
-}
-
-Answer getServerIPLists(const Request& request) {
-  return tellText(request, request.state.network.servers);
-}
-
 // Listing one twice does no harm, like listing it once.
 Answer addWhitelist(const Request& request) {
   auto& list = request.state.network.whitelist;
@@ -81,10 +65,10 @@ Answer getWhitelist(const Request& request) {
 constexpr Row kRows[] = {
     {command("setDeviceNetBasicParam"), setDeviceNetBasicParam, exactly(kBasicSize)},
     {command("resetDeviceIpToDefault"), resetDeviceIpToDefault},
-    {command("setPingIp"), setPingIp, {1, kMaxAddress}},
-    {command("getPingIp"), getPingIp},
-    {command("setServerIPLists"), setServerIPLists, {1, kMaxServers}},
-    {command("getServerIPLists"), getServerIPLists},
+    {command("setPingIp"), setNetworkText<&Network::pingAddress>, {1, kMaxAddress}},
+    {command("getPingIp"), tellNetworkText<&Network::pingAddress>},
+    {command("setServerIPLists"), setNetworkText<&Network::servers>, {1, kMaxServers}},
+    {command("getServerIPLists"), tellNetworkText<&Network::servers>},
     {command("addWhitelist"), addWhitelist, {1, kMaxAddress}},
     {command("removeWhitelist"), removeWhitelist, {1, kMaxAddress}},
     {command("getWhitelist"), getWhitelist},

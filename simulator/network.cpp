@@ -13,38 +13,10 @@ constexpr std::size_t kMaxConfig = 1024;
 constexpr std::size_t kMaxLora = 4096;
 constexpr std::uint16_t kShortestInterval = 60;
 
-Answer setWifiState(const Request& request) {
-  return setFlags(request, {&request.state.network.wifi});
-}
-
-Answer getWifiState(const Request& request) {
-  return tellFlag(request, request.state.network.wifi);
-}
-
-Answer connectWifi(const Request& request) {
-  return setText(request, request.state.network.wifiConnection);
-}
-
 Answer getWifiList(const Request& request) {
   return tellText(request, R"({"connected":)" + jsonString(request.state.network.wifiConnection) +
                                R"(,"networks":[{"ssid":"workshop","signal":-51},)"
                                R"({"ssid":"roadside","signal":-74}]})");
-}
-
-Answer setWifiApState(const Request& request) {
-  return setFlags(request, {&request.state.network.accessPoint});
-}
-
-Answer getWifiApState(const Request& request) {
-  return tellFlag(request, request.state.network.accessPoint);
-}
-
-Answer setWifiApConfig(const Request& request) {
-  return setText(request, request.state.network.accessPointConfig);
-}
-
-Answer getWifiApConfig(const Request& request) {
-  return tellText(request, request.state.network.accessPointConfig);
 }
 
 std::string linkText(const Network::VirtualConnection& link) {
@@ -69,10 +41,6 @@ Answer getVirtualConnection(const Request& request) {
   return request.tell(linkText(link), std::move(reply));
 }
 
-Answer setLoraInfo(const Request& request) { return setText(request, request.state.network.lora); }
-
-Answer getLoraInfo(const Request& request) { return tellText(request, request.state.network.lora); }
-
 Answer switchToSoftsim(const Request& request) {
   request.state.network.softSim = true;
   return request.accept();
@@ -88,18 +56,18 @@ Answer getMobileInfo(const Request& request) {
 }
 
 constexpr Row kRows[] = {
-    {command("setWifiState"), setWifiState, exactly(1)},
-    {command("getWifiState"), getWifiState},
-    {command("connectWifi"), connectWifi, {1, kMaxConfig}},
+    {command("setWifiState"), setNetworkFlag<&Network::wifi>, exactly(1)},
+    {command("getWifiState"), tellNetworkFlag<&Network::wifi>},
+    {command("connectWifi"), setNetworkText<&Network::wifiConnection>, {1, kMaxConfig}},
     {command("getWifiList"), getWifiList},
-    {command("setWifiApState"), setWifiApState, exactly(1)},
-    {command("getWifiApState"), getWifiApState},
-    {command("setWifiApConfig"), setWifiApConfig, {1, kMaxConfig}},
-    {command("getWifiApConfig"), getWifiApConfig},
+    {command("setWifiApState"), setNetworkFlag<&Network::accessPoint>, exactly(1)},
+    {command("getWifiApState"), tellNetworkFlag<&Network::accessPoint>},
+    {command("setWifiApConfig"), setNetworkText<&Network::accessPointConfig>, {1, kMaxConfig}},
+    {command("getWifiApConfig"), tellNetworkText<&Network::accessPointConfig>},
     {command("setVirtualConnection"), setVirtualConnection, exactly(4)},
     {command("getVirtualConnection"), getVirtualConnection},
-    {command("setLoraInfo"), setLoraInfo, atMost(kMaxLora)},
-    {command("getLoraInfo"), getLoraInfo},
+    {command("setLoraInfo"), setNetworkText<&Network::lora>, atMost(kMaxLora)},
+    {command("getLoraInfo"), tellNetworkText<&Network::lora>},
     {command("switchToSoftsim"), switchToSoftsim},
     {command("getSimInfo"), getSimInfo},
     {command("getMobileInfo"), getMobileInfo},

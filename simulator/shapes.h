@@ -30,4 +30,22 @@ Answer setPowerFlags(const Request& request, std::initializer_list<bool*> flags)
 Answer setText(const Request& request, std::string& text);
 Answer tellText(const Request& request, std::string_view text);
 
+// Handlers of such a text or flag of the network, by its name.
+template <std::string Network::*kText>
+Answer setNetworkText(const Request& request) {
+  return setText(request, request.state.network.*kText);
+}
+template <std::string Network::*kText>
+Answer tellNetworkText(const Request& request) {
+  return tellText(request, request.state.network.*kText);
+}
+template <bool Network::*kFlag>
+Answer setNetworkFlag(const Request& request) {
+  return setFlags(request, {&(request.state.network.*kFlag)});
+}
+template <bool Network::*kFlag>
+Answer tellNetworkFlag(const Request& request) {
+  return tellFlag(request, request.state.network.*kFlag);
+}
+
 }  // namespace tovi::sim
