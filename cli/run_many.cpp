@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "cli/run.h"
+#include "cli/terminal.h"
 
 namespace tovi::cli {
 namespace {
@@ -45,8 +46,7 @@ class Report {
     } else {
       line = controller + "  " + (result.done ? asLine(result.value) : failureText(result));
     }
-    line += '\n';
-    std::fwrite(line.data(), 1, line.size(), mJob.results);
+    printLine(mJob.results, line);
   }
 
   const Job& mJob;

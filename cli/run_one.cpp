@@ -1,15 +1,11 @@
 #include <exception>
 
 #include "cli/run.h"
+#include "cli/terminal.h"
 #include "platform/console.h"
 
 namespace tovi::cli {
 namespace {
-
-void printLine(std::FILE* results, const std::string& text) {
-  const std::string line = text + '\n';
-  std::fwrite(line.data(), 1, line.size(), results);  // texts may hold zero bytes
-}
 
 void print(const Job& job, const std::string& controller, const Result& result) {
   const bool empty = result.value.is_array() && result.value.empty();

@@ -4,6 +4,7 @@
 #include "cli/endpoint.h"
 #include "cli/progress.h"
 #include "cli/reading.h"
+#include "cli/terminal.h"
 #include "cli/times.h"
 #include "cli/timetable.h"
 
@@ -181,6 +182,22 @@ TEST(Progress, TellsShareRateAndRest) {
   // A file that was empty, and one that has grown meanwhile.
   EXPECT_EQ(progressText(0, 0, 0), "100% [==============================]  0.0 kB/s  0:00 left");
   EXPECT_EQ(progressText(20, 10, 1), "100% [==============================]  0.0 kB/s  0:00 left");
+}
+
+TEST(Terminal, IsKeptFromControlCharacters) {
+  const struct {
+    std::string told, shown;
+  } cases[] = {
+      {"\xE9\x99\x90 80 \xC3\xA9\xC2\xA0", "\xE9\x99\x90 80 \xC3\xA9\xC2\xA0"},
+      {"a\tb\nc", "a\tb\nc"},
+      {"\x1B[2J\x1B]0;title\x07", "?[2J?]0;title?"},
+      {std::string("\r\0\x7F", 3), "???"},
+      {"\xC2\x9B"
+       "2J\xC2\x85\xC2\x9F",
+       "?2J??"},
+      {"\xC2", "\xC2"},
+  };
+  for (const auto& [told, shown] : cases) EXPECT_EQ(harmless(told), shown);
 }
 
 }  // namespace
