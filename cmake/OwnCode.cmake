@@ -17,6 +17,7 @@ endif()
 
 # Which half of src/platform is built, and what it links.
 if(WIN32)
+  enable_language(RC)
   # A program finds a DLL that lies beside it.
   set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
   set(tovi_platform_folder win32)
@@ -34,4 +35,21 @@ function(tovi_own target)
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# What the system shows as a file's properties; nothing where it has none.
+function(tovi_describe target type resource_description)
+  if(NOT WIN32)
+    return()
+  endif()
+  if(type STREQUAL DLL)
+    set(resource_type VFT_DLL)
+    set(resource_file ${target}.dll)
+  else()
+    set(resource_type VFT_APP)
+    set(resource_file ${target}.exe)
+  endif()
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${resource} @ONLY)
+  target_sources(${target} PRIVATE ${resource})
 endfunction()
