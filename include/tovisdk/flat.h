@@ -28,10 +28,10 @@
 #include <tovisdk/export.h>
 #include <tovisdk/version.h>
 
-#include <stdbool.h>
-
 #ifdef __cplusplus
 extern "C" {
+#else
+#include <stdbool.h>
 #endif
 
 /// Releases a report or a value and sets the host's pointer to null. Safe on null in both levels.

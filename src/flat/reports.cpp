@@ -55,7 +55,7 @@ char* getBrightnessByTimeList(const char* ip, unsigned short port) {
   return report(__func__, ip, port, [name = __func__](ToviTraffic& session) {
     std::list<BrightnessByTimeParam>* list = session.getBrightnessByTimeList();
     const bool answered = list != nullptr;
-    const std::string text = textOfList(name, list);
+    std::string text = textOfList(name, list);
     if (answered) tovi::log::info("getBrightnessByTimeList result = %sinterfaceEnd", text.c_str());
     return text;
   });

@@ -11,16 +11,17 @@ namespace platform = tovi::platform;
 namespace {
 
 constexpr int kDefaultTimeout = 20000;
-constexpr std::size_t kAddressSize =
-    20;  // a dotted IPv4 text and its closing zero, with room to spare
+// A dotted IPv4 text and its closing zero, with room to spare.
+constexpr std::size_t kAddressSize = 20;
 
 // An address that does not fit is kept as the empty text, which no connection attempt accepts.
 char* newAddress(const char* ip) {
   char* address = new char[kAddressSize]();
-  if (ip == nullptr || ::strnlen(ip, kAddressSize) == kAddressSize) {
+  const std::size_t length = ip == nullptr ? kAddressSize : ::strnlen(ip, kAddressSize);
+  if (length == kAddressSize) {
     tovi::log::error("ToviTraffic::ToviTraffic address refused");
   } else {
-    std::strcpy(address, ip);
+    std::memcpy(address, ip, length);
   }
   return address;
 }
