@@ -81,12 +81,11 @@ Argument<bool> onOff(const std::string& name, const std::string& help) {
 Argument<std::string> text(const std::string& name, const std::string& help, std::size_t least,
                            std::size_t most) {
   return single(name, help, [least, most](const std::string& given) {
-    std::string text = given;
-    if (text.size() < least || text.size() > most) {
-      throw Unusable("a text of " + std::to_string(text.size()) + " bytes, where " +
+    if (given.size() < least || given.size() > most) {
+      throw Unusable("a text of " + std::to_string(given.size()) + " bytes, where " +
                      std::to_string(least) + " to " + std::to_string(most) + " are taken");
     }
-    return text;
+    return given;
   });
 }
 
@@ -117,11 +116,10 @@ Argument<std::string> ipv4(const std::string& name, const std::string& help) {
 
 Argument<std::string> jsonArray(const std::string& name, const std::string& help) {
   return single(name, help, [](const std::string& given) {
-    std::string text = given;
-    if (!nlohmann::json::parse(text, nullptr, false).is_array()) {
+    if (!nlohmann::json::parse(given, nullptr, false).is_array()) {
       throw Unusable(quoted(given) + " is no JSON array");
     }
-    return text;
+    return given;
   });
 }
 

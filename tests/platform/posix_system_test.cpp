@@ -1,5 +1,6 @@
 // Locales and standard streams, which a test can set on POSIX alone.
 #include <gtest/gtest.h>
+#include <tovisdk/text.h>
 #include <unistd.h>
 
 #include <clocale>
@@ -35,6 +36,8 @@ TEST(PosixText, TakesThePlainLocaleAsUtf8) {
     EXPECT_EQ(localToUtf8("\xE4\xBA\xAE"), "\xE4\xBA\xAE") << name;
     EXPECT_EQ(utf8ToLocal("\xE4\xBA\xAE"), "\xE4\xBA\xAE") << name;
     EXPECT_EQ(localToUtf8("\xE9"), std::nullopt) << name;
+    EXPECT_EQ(string_To_UTF8("\xE4\xBA\xAE"), "\xE4\xBA\xAE") << name;
+    EXPECT_EQ(string_To_UTF8("\xFF\xFE"), "\xFF\xFE") << name << ", which comes back as it was";
   }
 }
 
