@@ -7,7 +7,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kBasicSize = 26;
 constexpr std::size_t kMaxAddress = 255;

@@ -7,7 +7,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr long long kMinuteMs = 60'000;
 constexpr long long kDayMs = 24 * 60 * kMinuteMs;

@@ -7,7 +7,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kMaxText = 1024;
 constexpr std::size_t kMaxListed = 60'000;  // so that a list fits a frame

@@ -34,8 +34,8 @@ Found find(const Message& request) {
   return found;
 }
 
-const device::Command* commandOf(std::uint16_t code) {
-  for (const device::Command& command : device::kCommands) {
+const wire::Command* commandOf(std::uint16_t code) {
+  for (const wire::Command& command : wire::kCommands) {
     if (command.request == code) return &command;
   }
   return nullptr;
@@ -48,7 +48,7 @@ std::string codeText(std::uint16_t code) {
 }
 
 Answer notKnown(const Message& request) {
-  const device::Command* command = commandOf(request.code);
+  const wire::Command* command = commandOf(request.code);
   Answer answer;
   answer.method = command != nullptr ? command->method : "unknown command";
   answer.asked = codeText(request.code) + ", " + std::to_string(request.payload.size()) + " bytes";
@@ -82,7 +82,7 @@ Answer Request::keepQuiet(std::string asked) const {
 
 Answer refusalOf(const Row& row, View payload, std::string asked) {
   Answer answer{std::string(row.command.method), std::move(asked), "refused", {}};
-  if (row.command.reply == device::kNoReply) {
+  if (row.command.reply == wire::kNoReply) {
     answer.told = "refused, no reply";
     return answer;
   }

@@ -5,7 +5,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr int kLongestSide = 16'384;
 constexpr int kFastestRate = 1000;

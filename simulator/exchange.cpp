@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "device/command_table.h"
+#include "wire/command_table.h"
 
 namespace tovi::sim {
 namespace {
@@ -76,7 +76,7 @@ Exchange converse(Carried request, Controller& controller, Session& session, con
   addReplies(exchange, exchange.answer.replies, key, fault);
 
   if (controller.hasWholeFile(session) && !hangsUp(exchange)) {
-    const auto endFault = faults.next(device::command("recvFileOverRsp").method);
+    const auto endFault = faults.next(wire::command("recvFileOverRsp").method);
     const Answer end =
         isRefusal(endFault) ? controller.refuseFile(session) : controller.confirmFile(session);
     exchange.answer.told += "; " + end.told;

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <utility>
 
-#include "device/command_table.h"
+#include "wire/command_table.h"
 
 namespace tovi::sim {
 namespace {
@@ -53,7 +53,7 @@ bool parseNumber(std::string_view text, Number smallest, Number largest, Number&
 // "sendFileContent" or "sendFileContent#3".
 bool parseTarget(std::string_view text, Fault& fault) {
   const std::size_t hash = text.find('#');
-  for (const device::Command& command : device::kCommands) {
+  for (const wire::Command& command : wire::kCommands) {
     if (command.method == text.substr(0, hash)) fault.method = command.method;
   }
   return !fault.method.empty() && (hash == std::string_view::npos ||

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "device/command_table.h"
 #include "simulator/controller.h"
+#include "wire/command_table.h"
 
 namespace tovi::sim {
 
@@ -25,7 +25,7 @@ constexpr Size atMost(std::size_t size) { return {0, size}; }
 constexpr Size atLeast(std::size_t size) { return {size, SIZE_MAX}; }
 
 struct Row {
-  const device::Command& command;
+  const wire::Command& command;
   Handler handler;
   Size size = {};
   // Where several commands share a code, whether a payload means this one.

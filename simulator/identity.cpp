@@ -5,7 +5,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kMaxName = 255;
 

@@ -6,7 +6,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kMaxApp = 256;
 constexpr std::size_t kMaxSensors = 4096;

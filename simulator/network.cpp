@@ -7,7 +7,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kMaxConfig = 1024;
 constexpr std::size_t kMaxLora = 4096;

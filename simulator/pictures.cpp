@@ -6,7 +6,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kFullPiece = 65'535;
 constexpr int kMostPixels = 4'000'000;

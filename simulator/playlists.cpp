@@ -8,7 +8,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::string_view kPrefix = "play";
 constexpr std::string_view kSuffix = ".lst";

@@ -6,7 +6,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::uint8_t kHighestCloseTemperature = 150;
 

@@ -7,7 +7,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 std::string_view modeText(BrightnessMode mode) {
   switch (mode) {

@@ -9,7 +9,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kKeySize = 8;
 constexpr std::size_t kMaxLabel = 16;

@@ -10,7 +10,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::size_t kTimeSize = 7;
 constexpr std::size_t kPowerEntry = 14;

@@ -6,7 +6,7 @@
 namespace tovi::sim {
 namespace {
 
-using device::command;
+using wire::command;
 
 constexpr std::uint8_t kNameMark[] = {0xFF, 0xFF};
 constexpr std::size_t kNumberSize = 2;
@@ -73,7 +73,7 @@ Answer sendFileContent(const Request& request) {
 }
 
 Answer lastWord(std::string told, bool kept) {
-  const device::Command& end = command("recvFileOverRsp");
+  const wire::Command& end = command("recvFileOverRsp");
   return {std::string(end.method), {}, std::move(told), {{end.reply, {byteOf(kept)}}}};
 }
 

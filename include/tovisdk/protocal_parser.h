@@ -8,11 +8,11 @@
 #include <string>
 #include <string_view>
 
-namespace tovi::security {
+namespace tovi::cipher {
 class Aes128;
 class Md5;
 class Sm4;
-}  // namespace tovi::security
+}  // namespace tovi::cipher
 
 /// Turns received bytes into checked, unescaped, deciphered reply packages. It knows no socket:
 /// feed it any slice of the stream. One parser belongs to one connection and keeps the bytes that
@@ -79,9 +79,9 @@ class TOVISDK_API ProtocalParser {
   int blockLen = 0;
   int crcLeft = END_CRC_SIZE;
   char* desKey = nullptr;
-  tovi::security::Md5* md5 = nullptr;
-  tovi::security::Aes128* aes = nullptr;
-  tovi::security::Sm4* sm4 = nullptr;
+  tovi::cipher::Md5* md5 = nullptr;
+  tovi::cipher::Aes128* aes = nullptr;
+  tovi::cipher::Sm4* sm4 = nullptr;
   char* pending = nullptr;
   bool needMore = false;
   int packageLen = 0;

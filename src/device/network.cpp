@@ -8,9 +8,9 @@
 
 using tovi::device::atLeast;
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::command;
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include "device/operation.h"
 
 using tovi::device::atLeast;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::command;
 
 DeviceNowPlayItem* ToviTraffic::getNowPlayContent() {
   const Reply reply = Operation(*this, command("getNowPlayContent")).ask(atLeast(4));

@@ -4,8 +4,8 @@
 #include "device/operation.h"
 
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
+using tovi::wire::command;
 
 std::string ToviTraffic::getSurveil() { return Operation(*this, command("getSurveil")).askText(); }
 

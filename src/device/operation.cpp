@@ -1,41 +1,23 @@
 #include "device/operation.h"
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
+#include "wire/frame.h"
 
 namespace tovi::device {
-namespace {
-
-// A download link to a log archive may be long.
-constexpr int kLogPathBuffer = 120000;
-
-int bufferSize(const Command& command) {
-  switch (command.exchange) {
-    case Exchange::GetBig:
-      return ToviTraffic::BIG_SIZE;
-    case Exchange::GetHuge:
-      return kLogPathBuffer;
-    default:
-      return ToviTraffic::TEMP_SIZE;
-  }
-}
-
-}  // namespace
-
 std::string bytes(std::initializer_list<int> values) {
   std::string payload;
   for (const int value : values) payload += static_cast<char>(value);
   return payload;
 }
 
-Operation::Operation(ToviTraffic& traffic, const Command& command)
+Operation::Operation(ToviTraffic& traffic, const wire::Command& command)
     : mTraffic(traffic), mCommand(command) {
   log::info("%s start", mCommand.method.data());
 }
 
 int Operation::set(std::string payload) { return step(mCommand, std::move(payload)); }
 
-int Operation::step(const Command& command, std::string payload) {
+int Operation::step(const wire::Command& command, std::string payload) {
   if (!fits(payload)) return ToviTraffic::ARGUMENT_ERROR;
   return mTraffic.normalSet(static_cast<char>(command.request), static_cast<char>(command.reply),
                             payload.data(), static_cast<int>(payload.size()));
@@ -47,8 +29,8 @@ int Operation::setText(const std::string& text, std::size_t most) {
 
 Reply Operation::ask(Length usable, std::string payload) {
   if (!fits(payload)) return Reply();
-  Reply reply(mTraffic.getData(wideCode(mCommand.request), wideCode(mCommand.reply), payload.data(),
-                               static_cast<int>(payload.size()), bufferSize(mCommand)));
+  Reply reply(mTraffic.getData(wire::wideCode(mCommand.request), wire::wideCode(mCommand.reply),
+                               payload.data(), static_cast<int>(payload.size()), mCommand.buffer));
   if (!reply || (reply.size() >= usable.least && reply.size() <= usable.most)) return reply;
   mTraffic.mOutcome = ToviOutcome::BadReply;
   return Reply();
@@ -84,7 +66,7 @@ int Operation::refuse(const char* why) {
 }
 
 bool Operation::fits(const std::string& payload) {
-  if (payload.size() <= kMaxPayload) return true;
+  if (payload.size() <= wire::kMaxPayload) return true;
   refuse("it does not fit a frame");
   return false;
 }

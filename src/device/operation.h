@@ -7,8 +7,8 @@
 
 #include <tovisdk/tovi_traffic.h>
 
-#include "device/command_table.h"
 #include "device/reply.h"
+#include "wire/command_table.h"
 
 namespace tovi::device {
 
@@ -20,9 +20,6 @@ struct Length {
 constexpr Length atLeast(int bytes) { return {bytes}; }
 constexpr Length exactly(int bytes) { return {bytes, bytes}; }
 
-// What fits a frame in every mode: the 16-bit code and a whole block of padding are added to it.
-inline constexpr std::size_t kMaxPayload = 65535 - 2 - 16;
-
 // A payload of single bytes; of each number its low byte.
 std::string bytes(std::initializer_list<int> values);
 
@@ -30,13 +27,13 @@ std::string bytes(std::initializer_list<int> values);
 // frame are refused before anything is sent.
 class Operation {
  public:
-  Operation(ToviTraffic& traffic, const Command& command);
+  Operation(ToviTraffic& traffic, const wire::Command& command);
 
   // Sends a setting: 1, or normalSet's negative code, or -15.
   int set(std::string payload = {});
 
   // Sends a setting of another command that this operation begins with.
-  int step(const Command& command, std::string payload);
+  int step(const wire::Command& command, std::string payload);
 
   // Sends a text as a setting, unless it is longer than the controller's room for it.
   int setText(const std::string& text, std::size_t most);
@@ -65,7 +62,7 @@ class Operation {
 
  private:
   ToviTraffic& mTraffic;
-  const Command& mCommand;
+  const wire::Command& mCommand;
 };
 
 }  // namespace tovi::device

@@ -7,15 +7,15 @@
 #include <memory>
 
 #include "device/operation.h"
-#include "foundation/frame.h"
 #include "foundation/log.h"
+#include "wire/frame.h"
 
-using tovi::wideCode;
 using tovi::device::atLeast;
-using tovi::device::Command;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::Command;
+using tovi::wire::command;
+using tovi::wire::wideCode;
 
 namespace {
 

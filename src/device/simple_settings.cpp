@@ -8,10 +8,10 @@
 
 using tovi::device::atLeast;
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::exactly;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::command;
 
 namespace {
 

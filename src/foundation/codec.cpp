@@ -1,26 +1,9 @@
 #include <tovisdk/codec.h>
 
-#include <array>
-#include <cstdint>
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
-
-constexpr std::array<std::uint16_t, 256> makeCrcTable() {
-  std::array<std::uint16_t, 256> table{};
-  for (unsigned index = 0; index < table.size(); ++index) {
-    unsigned value = index;
-    for (int bit = 0; bit < 8; ++bit)
-      value = (value & 1u) != 0 ? (value >> 1) ^ 0x8408u : value >> 1;
-    table[index] = static_cast<std::uint16_t>(value);
-  }
-  // The controllers' own table differs from the polynomial's in this entry (0x19C9), and frames
-  // only verify with theirs.
-  table[0x89] = 0x019C;
-  return table;
-}
-
-constexpr std::array<std::uint16_t, 256> CRC_TABLE = makeCrcTable();
 
 char byteOf(unsigned value, int index) { return static_cast<char>(value >> (8 * index) & 0xFFu); }
 
@@ -50,12 +33,6 @@ int bytesToInt(char* buf, int offset) {
 
 short bytesToShort(char* buf, int offset) {
   return static_cast<short>(unsignedByte(buf, offset) | unsignedByte(buf, offset + 1) << 8);
-}
-
-short pubCalcCRC(char* data, int len) {
-  unsigned crc = 0xFFFF;
-  for (int i = 0; i < len; ++i) crc = crc >> 8 ^ CRC_TABLE[(crc ^ unsignedByte(data, i)) & 0xFFu];
-  return static_cast<short>(crc);
 }
 
 std::tm getTm(int year, int month, int day, int hour, int minute, int second) {

@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
+#include "wire/command_table.h"
 
 int ToviTraffic::normalSet(char what, char rspWhat, char* data, int len) {
   const std::uint64_t socket = getSocket();
@@ -14,8 +14,8 @@ int ToviTraffic::normalSet(char what, char rspWhat, char* data, int len) {
     return SOCKET_ERROR_CODE;
   }
   const bool sent =
-      sendPacket(socket, tovi::wideCode(static_cast<unsigned char>(what)), data, len) >= 0;
-  if (rspWhat == tovi::kNoReplyAwaited) {
+      sendPacket(socket, tovi::wire::wideCode(static_cast<unsigned char>(what)), data, len) >= 0;
+  if (rspWhat == static_cast<char>(tovi::wire::kNoReply)) {
     tovi::log::error("ToviTraffic::normalSet don't need wiat rsp");
     closeSocket(socket);
     mOutcome = sent ? ToviOutcome::Done : ToviOutcome::SendFailed;
@@ -23,7 +23,7 @@ int ToviTraffic::normalSet(char what, char rspWhat, char* data, int len) {
   }
   int size = 0;
   const std::unique_ptr<char[]> package(
-      recv(socket, tovi::wideCode(static_cast<unsigned char>(rspWhat)), &size));
+      recv(socket, tovi::wire::wideCode(static_cast<unsigned char>(rspWhat)), &size));
   int result = SUCCESS;
   if (package == nullptr) {
     tovi::log::error("ToviTraffic::normalSet recvBuf is null, result = SEND_NOT_RECV_ERROR");

@@ -5,10 +5,10 @@
 #include <cstring>
 #include <memory>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
 #include "platform/sockets.h"
 #include "platform/system.h"
+#include "wire/frame.h"
 
 namespace {
 
@@ -29,18 +29,18 @@ ProtocalParser* ToviTraffic::newParser() const {
   if (mDesKey != nullptr) {
     tovi::log::info("ToviTraffic::recv create protocalParser des mode, des key = %s",
                     shownKey(mDesKey));
-    return newCipherParser(mDesKey, tovi::kDes);
+    return newCipherParser(mDesKey, tovi::wire::kDes);
   }
   if (mAesKey != nullptr) {
     // The record names the wrong cipher; readers of these logs know it so.
     tovi::log::info("ToviTraffic::recv create protocalParser aes mode, des key = %s",
                     shownKey(mAesKey));
-    return newCipherParser(mAesKey, tovi::kAes);
+    return newCipherParser(mAesKey, tovi::wire::kAes);
   }
   if (mSm4Key != nullptr) {
     tovi::log::info("ToviTraffic::recv create protocalParser sm4 mode, sm4 key = %s",
                     shownKey(mSm4Key));
-    return newCipherParser(mSm4Key, tovi::kSm4);
+    return newCipherParser(mSm4Key, tovi::wire::kSm4);
   }
   tovi::log::info("ToviTraffic::recv create protocalParser normal mode");
   return new ProtocalParser();

@@ -7,17 +7,17 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
 #include "platform/sockets.h"
+#include "wire/frame.h"
 
 using tovi::log::shownKey;
 
 char* ToviTraffic::makeSendPacket(short what, char* data, int len, int* outLen) {
   char frameWhat = static_cast<char>(what);
   std::string extended;
-  if (what > tovi::kExtendedCommand) {
-    frameWhat = static_cast<char>(tovi::kExtendedCommand);
+  if (what > tovi::wire::kExtendedCommand) {
+    frameWhat = static_cast<char>(tovi::wire::kExtendedCommand);
     extended.resize(2);
     shortToBytes(extended.data(), 0, what);
     if (data != nullptr && len > 0) extended.append(data, static_cast<std::size_t>(len));
@@ -25,20 +25,20 @@ char* ToviTraffic::makeSendPacket(short what, char* data, int len, int* outLen) 
     len = static_cast<int>(extended.size());
   }
 
-  int mode = tovi::kPlain;
+  int mode = tovi::wire::kPlain;
   char* key = nullptr;
-  if (mDesKey != nullptr && what != tovi::kIsSecret) {
-    mode = tovi::kDes;
+  if (mDesKey != nullptr && what != tovi::wire::kIsSecret) {
+    mode = tovi::wire::kDes;
     key = mDesKey;
     tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx des mode, des key = %s",
                     shownKey(key));
-  } else if (mAesKey != nullptr && what != tovi::kIsSecret) {
-    mode = tovi::kAes;
+  } else if (mAesKey != nullptr && what != tovi::wire::kIsSecret) {
+    mode = tovi::wire::kAes;
     key = mAesKey;
     tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx aes mode, aes key = %s",
                     shownKey(key));
-  } else if (mSm4Key != nullptr && what != tovi::kIsSecret) {
-    mode = tovi::kSm4;
+  } else if (mSm4Key != nullptr && what != tovi::wire::kIsSecret) {
+    mode = tovi::wire::kSm4;
     key = mSm4Key;
     tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx sm4 mode, sm4 key = %s",
                     shownKey(key));

@@ -7,8 +7,8 @@
 #include "json/json_object.h"
 
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
+using tovi::wire::command;
 
 namespace {
 

@@ -8,12 +8,12 @@
 
 using tovi::device::atLeast;
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::device::Reply;
 using tovi::transfer::kMaxText;
 using tovi::transfer::Step;
 using tovi::transfer::Transfer;
+using tovi::wire::command;
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
+#include "wire/frame.h"
 
 namespace tovi::transfer {
 
@@ -31,14 +31,15 @@ int Transfer::refuse(const char* why) {
 
 int ToviTraffic::transferStep(std::uint64_t socket, const tovi::transfer::Step& step, char* data,
                               int len) {
-  const bool sent = sendPacket(socket, tovi::wideCode(step.command.request), data, len) >= 0;
+  const bool sent = sendPacket(socket, tovi::wire::wideCode(step.command.request), data, len) >= 0;
   return awaitStep(socket, step, sent);
 }
 
 int ToviTraffic::awaitStep(std::uint64_t socket, const tovi::transfer::Step& step, bool sent) {
   const char* method = step.command.method.data();
   int size = 0;
-  const std::unique_ptr<char[]> package(recv(socket, tovi::wideCode(step.command.reply), &size));
+  const std::unique_ptr<char[]> package(
+      recv(socket, tovi::wire::wideCode(step.command.reply), &size));
   if (package == nullptr) {
     tovi::log::error("ToviTraffic::%s no reply, result = %d", method, step.noReply);
     mOutcome = sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed;

@@ -5,8 +5,8 @@
 
 #include <tovisdk/tovi_traffic.h>
 
-#include "device/command_table.h"
 #include "device/operation.h"
+#include "wire/command_table.h"
 
 namespace tovi::transfer {
 
@@ -14,14 +14,14 @@ namespace tovi::transfer {
 inline constexpr int kNumberSize = 2;
 
 // The longest text that fits a frame in every mode behind two leading bytes.
-inline constexpr std::size_t kMaxText = device::kMaxPayload - 2;
+inline constexpr std::size_t kMaxText = wire::kMaxPayload - 2;
 
 // What files and pictures report where other operations report SOCKET_ERROR_CODE.
 inline constexpr int kNoConnection = -1;
 
 // One message of a transfer, and the answer that it wants.
 struct Step {
-  const device::Command& command;
+  const wire::Command& command;
   int statusByte;  // the reply's byte that is 1 when the controller accepts
   int noReply;     // the two results of failure
   int rejected;

@@ -3,15 +3,15 @@
 #include <memory>
 #include <string>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
 #include "transfer/transfer.h"
+#include "wire/frame.h"
 
 using tovi::device::bytes;
-using tovi::device::Command;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::transfer::Transfer;
+using tovi::wire::Command;
+using tovi::wire::command;
 
 namespace {
 
@@ -63,7 +63,7 @@ int ToviTraffic::updateFileName(const std::string& name) {
 
 bool ToviTraffic::downloadFiles(const std::string& list) {
   Transfer transfer(*this, "downloadFiles");
-  if (list.size() > tovi::device::kMaxPayload) {
+  if (list.size() > tovi::wire::kMaxPayload) {
     transfer.refuse("the list is too long");
     return false;
   }
@@ -73,7 +73,7 @@ bool ToviTraffic::downloadFiles(const std::string& list) {
     return false;
   }
   std::string payload = list;
-  if (sendPacket(transfer.socket(), tovi::wideCode(kDownload.request), payload.data(),
+  if (sendPacket(transfer.socket(), tovi::wire::wideCode(kDownload.request), payload.data(),
                  static_cast<int>(payload.size())) < 0) {
     std::cout << "send SOCKET_ERROR" << std::endl;
     mOutcome = ToviOutcome::SendFailed;
@@ -85,7 +85,8 @@ bool ToviTraffic::downloadFiles(const std::string& list) {
 bool ToviTraffic::awaitDownload(std::uint64_t socket) {
   for (int replies = 0; replies < kMaxDownloadReplies; ++replies) {
     int size = 0;
-    const std::unique_ptr<char[]> package(recv(socket, tovi::wideCode(kDownload.reply), &size));
+    const std::unique_ptr<char[]> package(
+        recv(socket, tovi::wire::wideCode(kDownload.reply), &size));
     if (package == nullptr) {
       mOutcome = ToviOutcome::NoReply;
       return false;

@@ -14,12 +14,12 @@
 #include <random>
 #include <sstream>
 
-#include "device/command_table.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 #include "simulator/server.h"
 #include "tests/simulator/literal.h"
 #include "tests/support/run_program.h"
+#include "wire/command_table.h"
 
 namespace tovi::cli {
 namespace {
@@ -513,10 +513,10 @@ std::string commandOf(std::string_view method) {
 
 TEST_F(Cli, HasACommandForEveryOperation) {
   const std::string help = run("--help").out;
-  std::vector<std::string> commands = {"get-device-screenshot", "download-files", "send-file",
-                                       "send-play-list", "get-detect-error-point-info"};
-  for (const device::Command& row : device::kCommands) {
-    if (row.exchange != device::Exchange::Step) commands.push_back(commandOf(row.method));
+  std::vector<std::string> commands = {"send-file", "send-play-list",
+                                       "get-detect-error-point-info"};
+  for (const wire::Command& row : wire::kCommands) {
+    if (!wire::isStep(row)) commands.push_back(commandOf(row.method));
   }
   for (const std::string& command : commands) {
     const std::size_t place = help.find("\n  " + command);

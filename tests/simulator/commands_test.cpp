@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "device/command_table.h"
 #include "tests/simulator/asked_controller.h"
+#include "wire/command_table.h"
 
 namespace tovi::sim {
 namespace {
@@ -306,15 +306,15 @@ TEST_F(CommandsTest, ReachTheState) {
 // read.
 TEST_F(CommandsTest, AllKnowTheirReplyWhateverIsAsked) {
   std::mt19937 random(20240607);
-  for (const device::Command& command : device::kCommands) {
-    if (command.request == device::kNoRequest) continue;
+  for (const wire::Command& command : wire::kCommands) {
+    if (command.request == wire::kNoRequest) continue;
     ask(command.request);
     EXPECT_NE(mAnswer.asked.substr(0, 2), "0x") << command.method << " is not known";
     for (std::size_t size = 0; size <= 64; ++size) {
       Bytes payload(size);
       for (std::uint8_t& byte : payload) byte = static_cast<std::uint8_t>(random() % 4);
       ask(command.request, payload);
-      const bool quiet = command.reply == device::kNoReply;
+      const bool quiet = command.reply == wire::kNoReply;
       ASSERT_EQ(mAnswer.replies.empty(), quiet) << command.method << " " << hex(payload);
       for (const Message& reply : mAnswer.replies) ASSERT_EQ(reply.code, command.reply);
       mController.change([](State& state) { state.content.downloadSteps = 0; });

@@ -1,10 +1,10 @@
-#include "security/md5.h"
+#include "cipher/md5.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 TEST(Md5, DigestsTextWholeAndByteByByte) {
@@ -55,4 +55,4 @@ TEST(Md5, DerivedKeyIsTheMiddleOfTheDigestText) {
 }
 
 }  // namespace
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -1,11 +1,11 @@
-#include "security/aes.h"
+#include "cipher/aes.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr char kKey[] = "83aa400af464c76d";
@@ -163,4 +163,4 @@ TEST(Aes128, RefusesAnIncompleteBlock) {
 }
 
 }  // namespace
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -4,15 +4,15 @@
 #include <memory>
 #include <string_view>
 
-#include "foundation/frame.h"
 #include "foundation/log.h"
 #include "transfer/local_files.h"
 #include "transfer/transfer.h"
+#include "wire/frame.h"
 
 using tovi::device::bytes;
-using tovi::device::Command;
-using tovi::device::command;
 using tovi::transfer::Transfer;
+using tovi::wire::Command;
+using tovi::wire::command;
 
 namespace {
 
@@ -41,7 +41,7 @@ int ToviTraffic::getDeviceScreenshot(std::string path) {
   }
   if (!transfer.connect()) return tovi::transfer::kNoConnection;
   std::string payload = bytes({0xFF, 0xFF});
-  const int sent = sendPacket(transfer.socket(), tovi::wideCode(kScreenshot.request),
+  const int sent = sendPacket(transfer.socket(), tovi::wire::wideCode(kScreenshot.request),
                               payload.data(), static_cast<int>(payload.size()));
   return receiveScreenshot(transfer.socket(), path.c_str(), sent >= 0);
 }
@@ -50,7 +50,7 @@ int ToviTraffic::receiveScreenshot(std::uint64_t socket, const char* path, bool 
   for (int piece = 0; piece < kMaxPieces; ++piece) {
     int size = 0;
     const std::unique_ptr<char[]> package(
-        recv(socket, tovi::wideCode(kScreenshot.reply), &size, SCREENSHOT_SIZE));
+        recv(socket, tovi::wire::wideCode(kScreenshot.reply), &size, SCREENSHOT_SIZE));
     if (package == nullptr) {
       tovi::log::error("ToviTraffic::getDeviceScreenshot piece %d did not come", piece + 1);
       mOutcome = sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed;

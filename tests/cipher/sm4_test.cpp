@@ -1,4 +1,4 @@
-#include "security/sm4.h"
+#include "cipher/sm4.h"
 
 #include <gtest/gtest.h>
 #include <openssl/err.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr char kKey[] = "83aa400af464c76d";
@@ -79,4 +79,4 @@ TEST(Sm4, RefusesASmallOutput) {
 }
 
 }  // namespace
-}  // namespace tovi::security
+}  // namespace tovi::cipher

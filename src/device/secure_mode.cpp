@@ -4,8 +4,8 @@
 #include "device/operation.h"
 
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
+using tovi::wire::command;
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "security/md5.h"
+#include "cipher/md5.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstddef>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr std::array<std::uint32_t, 64> kSines{
@@ -112,4 +112,4 @@ std::string derivedKey(std::string_view password) {
   return md5.hexDigest().substr(8, 16);
 }
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

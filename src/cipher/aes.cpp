@@ -1,4 +1,4 @@
-#include "security/aes.h"
+#include "cipher/aes.h"
 
 #include <algorithm>
 #include <bit>
@@ -12,7 +12,7 @@
 #define TOVI_AES_INSTRUCTIONS 0
 #endif
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace aes {
 namespace {
 
@@ -235,4 +235,4 @@ int Aes128::decrypt(std::string_view ciphered, std::span<char> out) const {
   return static_cast<int>(size - last);
 }
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace tovi::security {
+namespace tovi::cipher {
 
 // MD5 digest of text given in any number of pieces.
 class Md5 {
@@ -30,4 +30,4 @@ class Md5 {
 // The 16-character AES and SM4 key of a password: the middle half of its digest text.
 std::string derivedKey(std::string_view password);
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -1,6 +1,6 @@
 #define OPENSSL_SUPPRESS_DEPRECATED
 
-#include "security/des.h"
+#include "cipher/des.h"
 
 #include <openssl/des.h>
 
@@ -10,7 +10,7 @@
 #include <limits>
 #include <string>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr std::size_t kBlockSize = 8;
@@ -66,4 +66,4 @@ int desDecrypt(std::string_view ciphered, std::string_view key, std::span<char> 
   return static_cast<int>(size) - static_cast<unsigned char>(out[size - 1]);
 }
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

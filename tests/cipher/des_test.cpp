@@ -1,4 +1,4 @@
-#include "security/des.h"
+#include "cipher/des.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr char kKey[] = "12345678";
@@ -112,4 +112,4 @@ TEST(Des, ReportsLengthsAsTheyCome) {
 }
 
 }  // namespace
-}  // namespace tovi::security
+}  // namespace tovi::cipher

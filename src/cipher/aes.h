@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace tovi::security {
+namespace tovi::cipher {
 
 namespace aes {
 
@@ -45,4 +45,4 @@ class Aes128 {
   const aes::Engine* mEngine;
 };
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

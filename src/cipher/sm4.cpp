@@ -1,4 +1,4 @@
-#include "security/sm4.h"
+#include "cipher/sm4.h"
 
 #include <openssl/err.h>
 #include <openssl/evp.h>
@@ -8,7 +8,7 @@
 #include <limits>
 #include <memory>
 
-namespace tovi::security {
+namespace tovi::cipher {
 namespace {
 
 constexpr std::size_t kBlockSize = 16;
@@ -70,4 +70,4 @@ int Sm4::decrypt(std::string_view ciphered, std::span<char> out) const {
   return updated + finished;
 }
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -10,12 +10,12 @@
 #include "transfer/transfer.h"
 
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::transfer::FileReader;
 using tovi::transfer::kMaxText;
 using tovi::transfer::kNumberSize;
 using tovi::transfer::Step;
 using tovi::transfer::Transfer;
+using tovi::wire::command;
 
 namespace {
 

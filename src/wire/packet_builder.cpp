@@ -8,17 +8,16 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/frame.h"
+#include "cipher/aes.h"
+#include "cipher/des.h"
+#include "cipher/md5.h"
+#include "cipher/sm4.h"
 #include "foundation/log.h"
-#include "security/aes.h"
-#include "security/des.h"
-#include "security/md5.h"
-#include "security/sm4.h"
+#include "wire/frame.h"
 
-namespace tovi {
+namespace tovi::wire {
 namespace {
 
-constexpr std::size_t kMaxCiphered = 65535;  // what a frame carries of enciphered payload
 constexpr std::size_t kMaxBlock = 16;
 
 const char* cipherName(int mode) { return mode == kDes ? "des" : mode == kAes ? "aes" : "sm4"; }
@@ -26,11 +25,11 @@ const char* cipherName(int mode) { return mode == kDes ? "des" : mode == kAes ? 
 int encipherInto(std::span<char> out, std::string_view payload, int mode, std::string_view key) {
   switch (mode) {
     case kDes:
-      return security::desEncrypt(payload, key, out);
+      return cipher::desEncrypt(payload, key, out);
     case kAes:
-      return security::Aes128(security::derivedKey(key)).encrypt(payload, out);
+      return cipher::Aes128(cipher::derivedKey(key)).encrypt(payload, out);
     default:
-      return security::Sm4(security::derivedKey(key)).encrypt(payload, out);
+      return cipher::Sm4(cipher::derivedKey(key)).encrypt(payload, out);
   }
 }
 
@@ -89,7 +88,7 @@ std::string carriedPayload(char what, std::string_view payload, int mode, const 
 }
 
 }  // namespace
-}  // namespace tovi
+}  // namespace tovi::wire
 
 char* makeSendPacketEx(char what, char* data, int len, int mode, char* key, int* outLen) {
   // Escaping doubles a payload at most, and a frame's length is an int.
@@ -100,7 +99,8 @@ char* makeSendPacketEx(char what, char* data, int len, int mode, char* key, int*
     return nullptr;
   }
   const std::string_view payload(data, len > 0 ? static_cast<std::size_t>(len) : 0);
-  const std::string frame = tovi::frameOf(what, tovi::carriedPayload(what, payload, mode, key));
+  const std::string frame =
+      tovi::wire::frameOf(what, tovi::wire::carriedPayload(what, payload, mode, key));
   char* result = new char[frame.size()];
   frame.copy(result, frame.size());
   *outLen = static_cast<int>(frame.size());

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace tovi::security {
+namespace tovi::cipher {
 
 // SM4 in cipher block chaining mode. Every message starts its chain from the 16 key bytes.
 class Sm4 {
@@ -23,4 +23,4 @@ class Sm4 {
   std::array<unsigned char, 16> mKey{};
 };
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

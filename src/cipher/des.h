@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-namespace tovi::security {
+namespace tovi::cipher {
 
 // DES in cipher block chaining mode. Every message starts its chain from the 8 key bytes; a key of
 // another length is cut, or filled with zero bytes.
@@ -16,4 +16,4 @@ int desEncrypt(std::string_view plain, std::string_view key, std::span<char> out
 // be negative, and the caller judges it. 0 when ciphered is empty, -1 when out is too small.
 int desDecrypt(std::string_view ciphered, std::string_view key, std::span<char> out);
 
-}  // namespace tovi::security
+}  // namespace tovi::cipher

@@ -5,10 +5,10 @@
 
 #include "device/operation.h"
 
-using tovi::device::command;
 using tovi::device::exactly;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::command;
 
 namespace {
 

@@ -5,17 +5,17 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/frame.h"
-#include "security/aes.h"
-#include "security/des.h"
-#include "security/md5.h"
-#include "security/sm4.h"
+#include "cipher/aes.h"
+#include "cipher/des.h"
+#include "cipher/md5.h"
+#include "cipher/sm4.h"
+#include "wire/frame.h"
 
 namespace {
 
-using tovi::security::Aes128;
-using tovi::security::Md5;
-using tovi::security::Sm4;
+using tovi::cipher::Aes128;
+using tovi::cipher::Md5;
+using tovi::cipher::Sm4;
 
 constexpr std::size_t kMaxKept = std::size_t{4} << 20;
 constexpr std::size_t kMaxBlock = 16;
@@ -65,14 +65,14 @@ ProtocalParser::ProtocalParser() = default;
 ProtocalParser::ProtocalParser(char* key, int mode) {
   std::unique_ptr<char[]> owned(key);
   if (owned == nullptr) return;
-  if (mode == tovi::kDes) {
+  if (mode == tovi::wire::kDes) {
     desKey = owned.release();
-  } else if (mode == tovi::kAes || mode == tovi::kSm4) {
+  } else if (mode == tovi::wire::kAes || mode == tovi::wire::kSm4) {
     md5 = new Md5;
     md5->update(owned.get());
     const std::string cipherKey = md5->hexDigest().substr(8, 16);
-    if (mode == tovi::kAes) aes = new Aes128(cipherKey);
-    if (mode == tovi::kSm4) sm4 = new Sm4(cipherKey);
+    if (mode == tovi::wire::kAes) aes = new Aes128(cipherKey);
+    if (mode == tovi::wire::kSm4) sm4 = new Sm4(cipherKey);
   }
 }
 
@@ -153,12 +153,12 @@ char* ProtocalParser::recvPackage(char* frame, int len, short what) {
   if (plain.size() + PACKET_CRC_SIZE < PACKET_MIN_SIZE) return nullptr;
   const char whatByte = plain[PACKET_WHAT_OFFSET];
   std::string payload = plain.substr(PACKET_DATA_OFFSET, plain.size() - PACKET_DATA_OFFSET - 1);
-  if (what > tovi::kExtendedCommand) {
+  if (what > tovi::wire::kExtendedCommand) {
     if (!openExtended(payload, whatByte, what)) return nullptr;
     return newPackage(payload);
   }
   if (static_cast<signed char>(whatByte) != what) return nullptr;
-  if (hasCipher() && !payload.empty() && whatByte != tovi::kSecretReply) openPayload(payload);
+  if (hasCipher() && !payload.empty() && whatByte != tovi::wire::kSecretReply) openPayload(payload);
   return newPackage(whatByte + payload);
 }
 
@@ -166,7 +166,7 @@ char* ProtocalParser::recvPackage(char* frame, int len, short what) {
 bool ProtocalParser::openExtended(std::string& payload, char whatByte, short what) const {
   if (payload.size() < kCodeSize) return false;
   short code = bytesToShort(payload.data(), 0);
-  if (hasCipher() && whatByte != tovi::kSecretReply && code != tovi::kIsSecret) {
+  if (hasCipher() && whatByte != tovi::wire::kSecretReply && code != tovi::wire::kIsSecret) {
     std::string deciphered = openPayload(payload);
     code = bytesToShort(deciphered.data(), 0);
   }
@@ -179,7 +179,7 @@ std::string ProtocalParser::openPayload(std::string& payload) const {
   std::string plain(payload.size() + kMaxBlock, '\0');
   int length = 0;
   if (desKey != nullptr) {
-    length = tovi::security::desDecrypt(payload, desKey, plain);
+    length = tovi::cipher::desDecrypt(payload, desKey, plain);
   } else if (aes != nullptr) {
     length = aes->decrypt(payload, plain);
   } else if (sm4 != nullptr) {

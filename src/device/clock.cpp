@@ -7,9 +7,9 @@
 
 using tovi::device::atLeast;
 using tovi::device::bytes;
-using tovi::device::command;
 using tovi::device::Operation;
 using tovi::device::Reply;
+using tovi::wire::command;
 
 int ToviTraffic::setTime(std::tm* time) {
   Operation operation(*this, command("setTime"));
