@@ -13,6 +13,9 @@ class Aes128;
 class Md5;
 class Sm4;
 }  // namespace tovi::cipher
+namespace tovi::wire {
+class Receiver;
+}
 
 /// Turns received bytes into checked, unescaped, deciphered reply packages. It knows no socket:
 /// feed it any slice of the stream. One parser belongs to one connection and keeps the bytes that
@@ -54,25 +57,17 @@ class TOVISDK_API ProtocalParser {
   /// @param data the bytes; copied. May be null when len is 0
   /// @param len how many; below 0 counts as 0
   /// @param what the awaited code. 8-bit codes of 0x80 and above are passed widened with their
-  /// sign;
-  ///        codes above 0xEF are 16-bit commands
+  /// sign; codes above 0xEF are 16-bit commands
   /// @return a new array that the caller releases with deleteArry: the command byte and the plain
-  ///         payload, or for a 16-bit command the payload alone, which begins with the code, low
-  ///         byte first. Null when no matching reply is complete; frames with a wrong checksum, a
-  ///         bad escape or another command are skipped.
+  /// payload, or for a 16-bit command the payload alone, which begins with the code, low byte
+  /// first. Null when no matching reply is complete; frames with a wrong checksum, a bad escape or
+  /// another command are skipped.
   char* recvProc(char* data, int len, short what);
 
  private:
-  friend class ToviTraffic;
-  friend struct ToviTestAccess;
+  friend class tovi::wire::Receiver;
 
   char* recvPackage(char* frame, int len, short what);
-  bool storeByte(char byte);
-  void keep(std::string_view bytes);
-  bool hasCipher() const;
-  bool openExtended(std::string& payload, char whatByte, short what) const;
-  std::string openPayload(std::string& payload) const;
-  char* newPackage(std::string_view bytes);
 
   int rcvState = NO_START_RCV;
   int blockSize = 0;

@@ -50,8 +50,6 @@ class TOVISDK_API SocketResult {
  private:
   bool isSuccesed(int n) const;
 
-  friend struct ToviTestAccess;
-
   int len;
   char* data;
 };

@@ -17,13 +17,9 @@
 #include <tovisdk/records.h>
 #include <tovisdk/socket_result.h>
 
-namespace tovi::device {
-class Operation;
+namespace tovi::session {
+class Session;
 }
-namespace tovi::transfer {
-struct Step;
-class Transfer;
-}  // namespace tovi::transfer
 
 /// One display controller.
 ///
@@ -59,8 +55,7 @@ class TOVISDK_API ToviTraffic {
 
   /// Client mode. Nothing is connected yet.
   /// @param ip dotted IPv4 text of at most 19 characters; copied. A longer or null one is refused:
-  /// an
-  ///        error is logged and every operation then ends as "no connection"
+  /// an error is logged and every operation then ends as "no connection"
   /// @param port TCP port
   ToviTraffic(const char* ip, unsigned short port);
 
@@ -108,26 +103,6 @@ class TOVISDK_API ToviTraffic {
   void clearPassword();
 
   /// @}
-  /// @name The controller's secure mode
-  /// @{
-
-  /// Whether the controller expects enciphered traffic. Command 0x010C, no payload; plain in both
-  /// directions whatever key is set.
-  /// @return 1 secure, 0 not, -1 no reply
-  int getIsSecret();
-
-  /// Sets the controller's key. Command 0x0103; payload: the text, enciphered like any other.
-  /// @return whether the controller accepted
-  bool setDeviceKey(const std::string& key);
-
-  /// Configures secure mode. Command 0x70, reply 0x71, always plain; payload: mode, enable (1 or
-  /// 0), the label, 0x91 0x21, the key when mode is not 0, and with includeSecondKey 0x91 0x21 and
-  /// secondKey. Once accepted, the next reply is deciphered with the keys that are set then.
-  /// @return 1, -11, -12, -14, or -15 when label is not 1 to 16 characters or a key that is sent
-  /// not 8
-  int setDeviceSecretParam(DeviceSecretParam param, bool includeSecondKey);
-
-  /// @}
   /// @name Power and relays
   /// @{
 
@@ -152,7 +127,7 @@ class TOVISDK_API ToviTraffic {
   /// @return 1, -11, -12 or -14
   int setRelayPowers(bool relay1, bool relay2, bool relay3, bool relay4);
 
-  /// Whether the power is on. Command 0x0114, no payload.
+  /// Whether the power is on. Command and reply 0x0114, no payload.
   /// @return 1 on, 0 off, -1 no reply
   int getPowerState();
 
@@ -273,8 +248,8 @@ class TOVISDK_API ToviTraffic {
 
   /// @}
   /// @name Display and video
-  /// Settings travel as JSON. Replies are accepted when longer than 2 bytes with byte 1 equal to 1;
-  /// their JSON stands from byte 2 on. Without an accepted reply every field is 0 or empty.
+  /// Replies of JSON are accepted when longer than 2 bytes with byte 1 equal to 1; the JSON stands
+  /// from byte 2 on. Without an accepted reply every field is 0 or empty.
   /// @{
 
   /// Sets the output resolution, in pixels and Hz. Command and reply 0xA5; payload
@@ -306,7 +281,7 @@ class TOVISDK_API ToviTraffic {
   /// @return -1, -1 without a usable reply
   DeviceSize getDeviceSize();
 
-  /// Smooths texts, by three flags. Command 0xE5; payload 3 bytes: 1 or 0; no reply is awaited.
+  /// Smooths texts, by three flags. Command 0xE5, no reply; payload 3 bytes: 1 or 0.
   void setAntiAliasing(bool first, bool second, bool third);
   /// The three flags. Command and reply 0xE6, no payload; bytes 1 to 3, 1 is true.
   /// @return all false without a reply of at least 4 bytes
@@ -319,29 +294,30 @@ class TOVISDK_API ToviTraffic {
   /// nothing of a stored state.
   bool getSyncPlay();
 
-  /// Switches the pre-stored screen. Command 0x0112; payload 01 and 1 or 0.
+  /// Switches the pre-stored screen. Command and reply 0x0112; payload 01 and 1 or 0.
   /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
   int setPreStoredScreenEnabled(bool on);
-  /// The pre-stored screen's two flags. Command 0x0112; payload 00; reply bytes 3 and 4, signed.
+  /// The pre-stored screen's two flags. Command and reply 0x0112; payload 00; reply bytes 3 and 4,
+  /// signed.
   /// @return first -1 without a reply longer than 4 bytes
   PreStoredScreenEnabled getPreStoredScreenEnabled();
 
-  /// Fonts on the controller. Command and reply 0xD1, no payload; text from byte 2 when byte 1
-  /// is 1.
-  /// @return empty without a usable reply
-  std::string getFontList();
   /// Chooses a font. Command and reply 0xD2; payload: the text, at most 1024 bytes.
   /// @return 1, -11, -12, -14, or -15 for a longer text
   int setFont(const std::string& font);
+  /// Fonts on the controller. Command and reply 0xD1, no payload; text from byte 2 when byte 1 is
+  /// 1.
+  /// @return empty without a usable reply
+  std::string getFontList();
 
   /// Looks for broken pixels. Command 0x0B, reply 0x0C, no payload; at least 6 bytes and byte 1
   /// equal to 1: bytes 2-5 their number, low byte first.
   /// @return 0, 0 without such a reply
   ScreenPointDetect startScreenPointDetect();
 
-  /// Looks for broken pixels and fetches what was found. Commands 0x0B (reply 0x0C), then 0x36
-  /// (replies 0x37) on one connection; the first reply's bytes 2-3 tell how many parts follow, at
-  /// most 4096 are taken.
+  /// Looks for broken pixels and fetches what was found, on one connection. Command 0x0B, reply
+  /// 0x0C; then command 0x36, reply 0x37: its first reply's bytes 2-3 tell how many parts follow,
+  /// at most 4096 are taken.
   /// @return the parts' payloads one after another; empty when none came
   std::string getDetectErrorPointInfo();
 
@@ -370,14 +346,12 @@ class TOVISDK_API ToviTraffic {
 
   /// Reads the controller's name. Command 0x7E, reply 0x7F; payload 0x01; text from reply byte 2.
   /// @return a new zero-terminated text that the caller releases with deleteArry; null when no
-  /// reply
-  ///         came or it is not longer than 2 bytes
+  /// reply came or it is not longer than 2 bytes
   char* getDeviceName();
 
   /// Reads the firmware's version. Command 0x23, reply 0x24, no payload; text from reply byte 1.
   /// @return a new zero-terminated text that the caller releases with deleteArry; null when no
-  /// reply
-  ///         came
+  /// reply came
   char* getDeviceVersion();
 
   /// Reads the serial number. Command and reply 0xD5, no payload; text from reply byte 1.
@@ -386,7 +360,7 @@ class TOVISDK_API ToviTraffic {
 
   /// Reads the MAC address. Command and reply 0xB3, no payload; exactly 7 bytes.
   /// @return bytes 1 to 6 in lower-case hexadecimal without leading zeros, ":" between, as in
-  ///         "0:1a:b:0:ff:5"; empty without such a reply
+  /// "0:1a:b:0:ff:5"; empty without such a reply
   std::string getMac();
 
   /// Reads the status block. Command 0x01, reply 0x02, no payload; the reply must have exactly 19
@@ -394,7 +368,7 @@ class TOVISDK_API ToviTraffic {
   /// temperature sign (1 positive), 12 degrees (signed), 13 input (1 internal), 16 ambient
   /// brightness, 17 brightness mode (signed), 18 screen brightness.
   /// @return a new object that the caller deletes, or releases with deleteObj; null without such a
-  ///         reply
+  /// reply
   DeviceType* getDeviceType();
 
   /// Memory, as the controller counts it. Command 0x47, reply 0x48, no payload; bytes 1-4 total,
@@ -406,84 +380,23 @@ class TOVISDK_API ToviTraffic {
   /// "cpuUsage", "diskTotal" and "diskFree".
   CpuAndMemoryInfo getCpuAndMemoryInfo();
 
-  /// @}
-  /// @name Texts of the controller
-  /// Queries with no payload whose reply is accepted when byte 1 is 1 (8-bit commands; text from
-  /// byte 2) or byte 2 is 1 (16-bit commands; text from byte 3). Empty without a usable reply.
-  /// @{
-  std::string getSurveil();        ///< command 0xA0
-  std::string getSystemInfo();     ///< command 0xC2
-  std::string getSensorInfo();     ///< command 0xC7
-  std::string getMobileInfo();     ///< command 0xC9
-  std::string getWifiList();       ///< command 0xCE
-  std::string getWifiApConfig();   ///< command 0xC4
-  std::string getPingIp();         ///< command 0x0102
-  std::string getSimInfo();        ///< command 0x0108
-  std::string getWhitelist();      ///< command 0x0109
-  std::string getServerIPLists();  ///< command 0x010E
-  std::string getLogZipPath();     ///< command 0x010F; a reply of up to 120000 bytes per read
+  /// The system's data. Command and reply 0xC2, no payload; text from byte 2 when byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getSystemInfo();  ///< command 0xC2
 
-  /// The same from command 0xD6, with the acceptance beside the text.
-  ResultParam getLoraInfo();
-  /// @}
-  /// @name Wireless
-  /// @{
-
-  /// Switches the wireless client. Command and reply 0xCB; payload 1 or 0.
-  /// @return whether the controller accepted
-  bool setWifiState(bool on);
-  /// The wireless client's state. Command and reply 0xCA, no payload.
-  /// @return reply byte 1, signed; -1 without a usable reply
-  int getWifiState();
-  /// Joins a wireless network. Command and reply 0xCF; payload: the text, at most 1024 bytes.
-  /// @return 1, -11, -12, -14, or -15 for a longer text
-  int connectWifi(const std::string& connection);
-  /// Switches the access point. Command and reply 0xC5; payload 1 or 0.
-  /// @return 1, -11, -12 or -14
-  int setWifiApState(bool on);
-  /// The access point's state. Command and reply 0x9B, no payload.
-  /// @return reply byte 1, signed; -1 without a usable reply
-  int getWifiApState();
-  /// Configures the access point. Command and reply 0xC6; payload: the text, at most 1024 bytes.
-  /// @return 1, -11, -12, -14, or -15 for a longer text
-  int setWifiApConfig(const std::string& config);
+  /// Monitoring data. Command and reply 0xA0, no payload; text from byte 2 when byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getSurveil();  ///< command 0xA0
 
   /// @}
-  /// @name Networks, sensors and applications
+  /// @name Network
   /// @{
 
-  /// Configures the LoRa radio. Command and reply 0xD7; payload: the text, at most 4096 bytes.
-  /// @return 1, -11, -12, -14, or -15 for a longer text
-  int setLoraInfo(const std::string& info);
-  /// Configures the sensors. Command and reply 0xC8; payload: the text, at most 4096 bytes.
-  /// @return 1, -11, -12, -14, or -15 for a longer text
-  int setSensorInfo(const std::string& info);
-  /// Removes an application. Command and reply 0x9F; payload: its name, 1 to 256 bytes.
-  /// @return 1, -11, -12, -14, or -15 for a name of any other length
-  int removeAppPageName(const std::string& package);
-
-  /// Sets the address that the controller pings. Command 0x0101; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
-  int setPingIp(const std::string& address);
-  /// Adds to the whitelist. Command 0x010A; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
-  int addWhitelist(const std::string& entry);
-  /// Takes from the whitelist. Command 0x010B; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
-  int removeWhitelist(const std::string& entry);
-  /// Sets the servers' addresses. Command 0x010D; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
-  int setServerIPLists(const std::string& lists);
-
-  /// Changes to the software SIM. Command 0x0105, no payload.
-  /// @return 1 accepted, 0 not, -1 no reply
-  int switchToSoftsim();
-
-  /// Sets the network addresses. Command 0x19; payload 26 bytes: ip, netmask and gateway (4 bytes
-  /// each, first field first), port (low byte first), server, zeros; no reply is awaited.
+  /// Sets the network addresses. Command 0x19, no reply; payload 26 bytes: ip, netmask and gateway
+  /// (4 bytes each, first field first), port (low byte first), server, zeros.
   void setDeviceNetBasicParam(DeviceNetBasicParam param);
 
-  /// Back to the factory's addresses. Command 0x21, no payload; no reply is awaited.
+  /// Back to the factory's addresses. Command 0x21, no reply, no payload.
   void resetDeviceIpToDefault();
 
   /// Keeps a connection. Command 0xF3, reply 0xF4; payload 4 bytes: 1 or 0, interval (low byte
@@ -496,6 +409,86 @@ class TOVISDK_API ToviTraffic {
   /// @return false, -1, -1 without a usable reply
   VirtualParam getVirtualConnection();
 
+  /// Sets the address that the controller pings. Command and reply 0x0101; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int setPingIp(const std::string& address);
+  /// That address. Command and reply 0x0102, no payload; text from byte 3 when byte 2 is 1.
+  /// @return empty without a usable reply
+  std::string getPingIp();  ///< command 0x0102
+
+  /// Sets the servers' addresses. Command and reply 0x010D; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int setServerIPLists(const std::string& lists);
+  /// The servers' addresses. Command and reply 0x010E, no payload; text from byte 3 when byte 2 is
+  /// 1.
+  /// @return empty without a usable reply
+  std::string getServerIPLists();  ///< command 0x010E
+
+  /// Adds to the whitelist. Command and reply 0x010A; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int addWhitelist(const std::string& entry);
+  /// Takes from the whitelist. Command and reply 0x010B; payload: the text.
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  int removeWhitelist(const std::string& entry);
+  /// The whitelist. Command and reply 0x0109, no payload; text from byte 3 when byte 2 is 1.
+  /// @return empty without a usable reply
+  std::string getWhitelist();  ///< command 0x0109
+
+  /// @}
+  /// @name Wireless and mobile
+  /// @{
+
+  /// Switches the wireless client. Command and reply 0xCB; payload 1 or 0.
+  /// @return whether the controller accepted
+  bool setWifiState(bool on);
+  /// The wireless client's state. Command and reply 0xCA, no payload.
+  /// @return reply byte 1, signed; -1 without a usable reply
+  int getWifiState();
+
+  /// The networks in reach. Command and reply 0xCE, no payload; text from byte 2 when byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getWifiList();  ///< command 0xCE
+
+  /// Joins a wireless network. Command and reply 0xCF; payload: the text, at most 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int connectWifi(const std::string& connection);
+
+  /// Switches the access point. Command and reply 0xC5; payload 1 or 0.
+  /// @return 1, -11, -12 or -14
+  int setWifiApState(bool on);
+  /// The access point's state. Command and reply 0x9B, no payload.
+  /// @return reply byte 1, signed; -1 without a usable reply
+  int getWifiApState();
+
+  /// Configures the access point. Command and reply 0xC6; payload: the text, at most 1024 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setWifiApConfig(const std::string& config);
+  /// The access point's configuration. Command and reply 0xC4, no payload; text from byte 2 when
+  /// byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getWifiApConfig();  ///< command 0xC4
+
+  /// The mobile network's state. Command and reply 0xC9, no payload; text from byte 2 when byte 1
+  /// is 1.
+  /// @return empty without a usable reply
+  std::string getMobileInfo();  ///< command 0xC9
+
+  /// The SIM card's data. Command and reply 0x0108, no payload; text from byte 3 when byte 2 is 1.
+  /// @return empty without a usable reply
+  std::string getSimInfo();  ///< command 0x0108
+
+  /// Changes to the software SIM. Command and reply 0x0105, no payload.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int switchToSoftsim();
+
+  /// Configures the LoRa radio. Command and reply 0xD7; payload: the text, at most 4096 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setLoraInfo(const std::string& info);
+  /// The LoRa radio's configuration, with the acceptance beside the text. Command and reply 0xD6,
+  /// no payload; text from byte 2 when byte 1 is 1.
+  /// @return result 0 and an empty text without a usable reply
+  ResultParam getLoraInfo();
+
   /// Sets the radio's road. Command and reply 0x99; payload: of each character its distance to "0".
   /// @return 1, -11, -12, -14, or -15 for a text of more than 65517 bytes
   int setRDSRoad(const std::string& digits);
@@ -503,6 +496,88 @@ class TOVISDK_API ToviTraffic {
   /// byte too, is shown as a character after "0".
   /// @return empty without a usable reply
   std::string getRDSRoad();
+
+  /// @}
+  /// @name Maintenance
+  /// @{
+
+  /// Restarts the controller. Command 0x0D, reply 0x0E, no payload.
+  /// @return 1, -11, -12 or -14
+  int restartDevice();
+
+  /// Tells the controller that the host is there. Command 0x00, no reply; payload 1 byte: 0.
+  void sendHeartBeat();
+
+  /// Sets the temperature at which the screen closes. Command 0x15, reply 0x16; payload 6 bytes,
+  /// the last is the temperature.
+  /// @param temperature 0 to 150 degrees
+  /// @return 1, -11, -12, -14, or -15 for any other value
+  int setCloseScreenTemperature(int temperature);
+  /// The temperature at which the screen closes. Command 0x29, reply 0x2A, no payload; byte 6.
+  /// @return degrees, signed; -1 without a reply, -11 when it has 6 bytes or fewer
+  int getCloseScreenTemperature();
+
+  /// Makes settings permanent. Command and reply 0x0113; payload 1 byte.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int solidify(unsigned char value);
+
+  /// Makes a backup. Command and reply 0x0111; payload 01.
+  /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
+  int backups();
+  /// How the last backup went. Command and reply 0x0111; payload 00; byte 3 the state, the rest
+  /// from byte 4.
+  /// @return a new record that the caller releases; never null
+  BackUpsInfo* getBackupsTimes();
+
+  /// Switches remote shell access. Command and reply 0x0110; payload 01 and 1 or 0.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int setSSHEnabled(bool on);
+  /// Whether remote shell access is on. Command and reply 0x0110; payload 00; byte 2 must be 0,
+  /// byte 3 is the flag.
+  /// @return 1 on, 0 off, -1 without a usable reply
+  int getSSHEnabled();
+
+  /// Where the log archive is. Command and reply 0x010F, no payload; text from byte 3 when byte 2
+  /// is 1. One read takes up to 120000 bytes.
+  /// @return empty without a usable reply
+  std::string getLogZipPath();  ///< command 0x010F; a reply of up to 120000 bytes per read
+
+  /// Configures the sensors. Command and reply 0xC8; payload: the text, at most 4096 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a longer text
+  int setSensorInfo(const std::string& info);
+  /// The sensors. Command and reply 0xC7, no payload; text from byte 2 when byte 1 is 1.
+  /// @return empty without a usable reply
+  std::string getSensorInfo();  ///< command 0xC7
+
+  /// Removes an application. Command and reply 0x9F; payload: the text, its name, 1 to 256 bytes.
+  /// @return 1, -11, -12, -14, or -15 for a name of any other length
+  int removeAppPageName(const std::string& package);
+
+  /// Empties the cache. Command and reply 0x0115, no payload.
+  /// @return 1 accepted, 0 not, -1 no reply
+  int clearCache();
+
+  /// @}
+  /// @name Secure mode
+  /// The controller's own: whether it expects enciphered traffic, and with which key.
+  /// @{
+
+  /// Whether the controller expects enciphered traffic. Command and reply 0x010C, no payload; plain
+  /// in both directions whatever key is set.
+  /// @return 1 secure, 0 not, -1 no reply
+  int getIsSecret();
+
+  /// Sets the controller's key. Command and reply 0x0103; payload: the text, enciphered like any
+  /// other.
+  /// @return whether the controller accepted
+  bool setDeviceKey(const std::string& key);
+
+  /// Configures secure mode. Command 0x70, reply 0x71, always plain; payload: mode, enable (1 or
+  /// 0), the label, 0x91 0x21, the key when mode is not 0, and with includeSecondKey 0x91 0x21 and
+  /// secondKey. Once accepted, the next reply is deciphered with the keys that are set then.
+  /// @return 1, -11, -12, -14, or -15 when label is not 1 to 16 characters or a key that is sent
+  /// not 8
+  int setDeviceSecretParam(DeviceSecretParam param, bool includeSecondKey);
 
   /// @}
   /// @name Files
@@ -528,26 +603,42 @@ class TOVISDK_API ToviTraffic {
   /// object; what it throws passes through, with the connection and the file closed.
   using Progress = std::function<bool(long long sent, long long total)>;
 
-  /// Sends a file. Commands 0x11 (name, after 0xFF 0xFF), 0x13 (chunk number from 1, low byte
-  /// first, and up to 65535 bytes, or 65517 while a key is set); replies 0x12, 0x14 and at last
-  /// 0xF9.
+  /// Sends a file. Command 0x11, reply 0x12: the name behind 0xFF 0xFF. Command 0x13, reply 0x14:
+  /// the chunk's number from 1, low byte first, and up to 65535 bytes, or 65517 while a key is set.
+  /// At last reply 0xF9.
   /// @param path the local file, in the local code page
   /// @param name the name under which the controller stores it
-  /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk;
-  ///         -7, -8 the end; -13 the file cannot be opened or read, or became shorter meanwhile:
-  ///         the name has been announced by then; -15 a null argument or a name of more than 65515
-  ///         bytes
+  /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk; -7,
+  /// -8 the end; -13 the file cannot be opened or read, or became shorter meanwhile: the name has
+  /// been announced by then; -15 a null argument or a name of more than 65515 bytes
   int sendFile(const char* path, const char* name);
   /// The same, told to the host as it goes.
   /// @return as above, and -16 when the host stopped it
   int sendFile(const char* path, const char* name, const Progress& progress);
+
+  /// Names of all media on the controller. Command and reply 0xB0, no payload; byte 1 is 1, a JSON
+  /// array of texts from byte 2.
+  /// @return empty without a usable reply
+  std::list<std::string> getAllMediaFileName();
+  /// Names of the files of one type. Command and reply 0xB9; payload 1 byte: the type; reply as
+  /// above. Elements of either array that are no texts are left out.
+  std::list<std::string> getFileListName(char type);
+
+  /// Cleans up storage. Command 0x7C, reply 0x7D; payload 1 byte.
+  /// @param type 0 to 3; any other value is sent as 1
+  /// @return 1, -11, -12 or -14
+  int cleanUpFiles(int type);
+
+  /// @}
+  /// @name Playlists
+  /// @{
 
   /// Uploads a playlist as "playNNN.lst" and plays it: the steps of sendFile with the text as one
   /// chunk, then command 0x1B, reply 0x1C with the number's low byte.
   /// @param number above 999 it is taken modulo 999
   /// @param text zero-terminated, sent as it is
   /// @return 1; -14 no connection; -3 to -8 as sendFile; -9, -10 playing was not answered or
-  ///         refused; -15 for null, a text of more than 65515 bytes or a number below -99
+  /// refused; -15 for null, a text of more than 65515 bytes or a number below -99
   int sendPlayList(int number, const char* text);
 
   /// Plays a playlist. Command 0x1B, reply 0x1C; payload 1 byte: the number.
@@ -563,13 +654,9 @@ class TOVISDK_API ToviTraffic {
   /// @return empty without a usable reply
   std::list<int> getAllPlaylistId();
 
-  /// Names of all media on the controller. Command and reply 0xB0, no payload; byte 1 is 1, a JSON
-  /// array of texts from byte 2.
-  /// @return empty without a usable reply
-  std::list<std::string> getAllMediaFileName();
-  /// Names of the files of one type. Command and reply 0xB9; payload 1 byte: the type; reply as
-  /// above. Elements of either array that are no texts are left out.
-  std::list<std::string> getFileListName(char type);
+  /// @}
+  /// @name Updates
+  /// @{
 
   /// Updates from a local path on the controller. Command 0x88, reply 0x89; payload 01, low byte of
   /// the type, the text.
@@ -596,61 +683,16 @@ class TOVISDK_API ToviTraffic {
   /// @return whether status 1 came; false for a list of more than 65517 bytes
   bool downloadFiles(const std::string& list);
 
-  /// Cleans up storage. Command 0x7C, reply 0x7D; payload 1 byte.
-  /// @param type 0 to 3; any other value is sent as 1
-  /// @return 1, -11, -12 or -14
-  int cleanUpFiles(int type);
-
-  /// Empties the cache. Command 0x0115, no payload.
-  /// @return 1 accepted, 0 not, -1 no reply
-  int clearCache();
-
-  /// Fetches a picture of the screen. Command 0x80 with payload FF FF, reply 0x81; the picture
-  /// stands from byte 3 on, in pieces of 65535 bytes until a shorter one, at most 4096 pieces.
-  /// @param path the local file, emptied first; a transfer that fails leaves it empty or cut short
-  /// @return 1; -15 when path is empty or cannot be made; -1 no connection; -11 when a piece did
-  ///         not come or the last one is full, too; -13 when the file cannot be written
-  int getDeviceScreenshot(std::string path);
-
   /// @}
-  /// @name Maintenance
+  /// @name Screenshots
   /// @{
 
-  /// Restarts the controller. Command 0x0D, reply 0x0E, no payload.
-  /// @return 1, -11, -12 or -14
-  int restartDevice();
-
-  /// Tells the controller that the host is there. Command 0x00; payload 1 byte: 0; no reply is
-  /// awaited.
-  void sendHeartBeat();
-
-  /// Sets the temperature at which the screen closes. Command 0x15, reply 0x16; payload 6 bytes,
-  /// the last is the temperature.
-  /// @param temperature 0 to 150 degrees
-  /// @return 1, -11, -12, -14, or -15 for any other value
-  int setCloseScreenTemperature(int temperature);
-  /// The temperature at which the screen closes. Command 0x29, reply 0x2A, no payload; byte 6.
-  /// @return degrees, signed; -1 without a reply, -11 when it has 6 bytes or fewer
-  int getCloseScreenTemperature();
-
-  /// Makes settings permanent. Command 0x0113; payload 1 byte.
-  /// @return 1 accepted, 0 not, -1 no reply
-  int solidify(unsigned char value);
-
-  /// Makes a backup. Command 0x0111; payload 01.
-  /// @return reply byte 3, signed; -1 without a reply longer than 3 bytes
-  int backups();
-  /// How the last backup went. Command 0x0111; payload 00; byte 3 the state, the rest from byte 4.
-  /// @return a new record that the caller releases; never null
-  BackUpsInfo* getBackupsTimes();
-
-  /// Switches remote shell access. Command 0x0110; payload 01 and 1 or 0.
-  /// @return 1 accepted, 0 not, -1 no reply
-  int setSSHEnabled(bool on);
-  /// Whether remote shell access is on. Command 0x0110; payload 00; byte 2 must be 0, byte 3 is the
-  /// flag.
-  /// @return 1 on, 0 off, -1 without a usable reply
-  int getSSHEnabled();
+  /// Fetches a picture of the screen. Command 0x80, reply 0x81; payload FF FF. The picture stands
+  /// from byte 3 on, in pieces of 65535 bytes until a shorter one, at most 4096 pieces.
+  /// @param path the local file, emptied first; a transfer that fails leaves it empty or cut short
+  /// @return 1; -15 when path is empty or cannot be made; -1 no connection; -11 when a piece did
+  /// not come or the last one is full, too; -13 when the file cannot be written
+  int getDeviceScreenshot(std::string path);
 
   /// @}
 
@@ -659,23 +701,14 @@ class TOVISDK_API ToviTraffic {
   void setSocket(std::uint64_t socket);
 
  private:
-  friend class tovi::device::Operation;
-  friend class tovi::transfer::Transfer;
-  friend struct ToviTestAccess;
+  friend class tovi::session::Session;
 
   std::uint64_t getSocket();
-  std::uint64_t connectToController();
   void closeSocket(std::uint64_t socket);
 
-  void storeAesOrSm4Key(const char* password, char*& slot);
-
   char* makeSendPacket(short what, char* data, int len, int* outLen);
-  int sendPacket(std::uint64_t socket, short what, char* data, int len);
   char* recv(std::uint64_t socket, short what, int* outLen);
   char* recv(std::uint64_t socket, short what, int* outLen, int bufSize);
-  char* receiveOnce(std::uint64_t socket, short what, char* buffer, int bufSize);
-  int receiveTimeout(std::uint64_t socket) const;
-  ProtocalParser* newParser() const;
 
   int normalSet(char what, char rspWhat, char* data, int len);
   SocketResult* getData(short what, short rspWhat, char* data, int len);
@@ -686,21 +719,13 @@ class TOVISDK_API ToviTraffic {
   SocketResult* getBigData(short what, short rspWhat, char* data, int len);
   SocketResult* getDetectErrorPointData(std::uint64_t socket, char what, char rspWhat,
                                         char partWhat, char* data, int len, int bufSize = BIG_SIZE);
-  char* sendAndReceive(std::uint64_t socket, short what, short rspWhat, char* data, int len,
-                       int bufSize, int* outLen);
-  SocketResult* newResult(char* package, int len);
 
   int sendFileName(std::uint64_t socket, const char* name, int len);
   int sendFileContent(std::uint64_t socket, const char* path, int chunkSize, int* lastLen,
-                      int* nextNumber, const Progress& progress);
+                      int* nextNumber);
   int sendContent(std::uint64_t socket, const char* data, int len, int number);
   int recvFileOverRsp(std::uint64_t socket);
   int sendPlayId(std::uint64_t socket, int number);
-  int sendChunk(std::uint64_t socket, char* payload, int len, int number);
-  int transferStep(std::uint64_t socket, const tovi::transfer::Step& step, char* data, int len);
-  int awaitStep(std::uint64_t socket, const tovi::transfer::Step& step, bool sent);
-  bool awaitDownload(std::uint64_t socket);
-  int receiveScreenshot(std::uint64_t socket, const char* path, bool sent);
 
   char* mIp;
   unsigned short mPort;

@@ -1,37 +1,71 @@
-// Resolution, timing, video input and fonts, and what else the display itself has to tell.
-#include <tovisdk/tovi_traffic.h>
+// Resolution, timing, video input, fonts and broken pixels.
+#include <tovisdk/codec.h>
 
-#include <cstdlib>
+#include <algorithm>
+#include <iostream>
 
-#include "device/operation.h"
+#include "device/json_reply.h"
+#include "foundation/log.h"
 #include "json/json_object.h"
+#include "session/operation.h"
 
-using tovi::device::atLeast;
-using tovi::device::bytes;
-using tovi::device::Operation;
-using tovi::device::Reply;
-using tovi::wire::command;
+using namespace tovi;
+using namespace tovi::session;
+using tovi::device::JsonReply;
 
 namespace {
 
-constexpr std::size_t kFontText = 1024;
-constexpr std::size_t kTimingText = 4096;
+// The first byte of commands that both set and query.
+constexpr int kQuery = 0;
+constexpr int kSet = 1;
 
-// The JSON of a reply, and whether the controller accepted the question. Text that is no JSON gives
-// an object without members, which makes every value empty or 0.
-class JsonReply {
- public:
-  explicit JsonReply(Operation operation)
-      : mObject(operation.askText()), mAccepted(operation.outcome() == ToviOutcome::Done) {}
+// More parts than any screen has; an announced number beyond it is not believed.
+constexpr int kMaxParts = 4096;
 
-  int result() const { return mAccepted ? 1 : 0; }
-  std::string text(const char* key) const { return mObject.valueText(key); }
-  int number(const char* key) const { return std::atoi(text(key).c_str()); }
-
- private:
-  CJsonObject mObject;
-  bool mAccepted;
+// Wide codes of a request, of the reply that announces parts, and of the parts.
+struct Codes {
+  short what;
+  short rspWhat;
+  short partWhat;
 };
+
+int announcedParts(const Reply& announced) {
+  return announced.size() < 4 ? 0 : std::min(announced.signedShort(2), kMaxParts);
+}
+
+// The payloads of all parts, one after another; a part that does not come ends them. Nothing when
+// none was announced because the request or its reply failed.
+std::optional<std::string> askParts(Session session, Connection& connection, const Codes& codes,
+                                    std::string_view payload, int bufferSize) {
+  if (!connection) {
+    std::cout << "socket == NULL" << std::endl;
+    session.end(ToviOutcome::NoConnection);
+    return std::nullopt;
+  }
+  if (session.send(connection.socket(), codes.what, payload) < 0) {
+    connection.close();
+    std::cout << "send SOCKET_ERROR" << std::endl;
+    session.end(ToviOutcome::SendFailed);
+    return std::nullopt;
+  }
+  const Reply announced(session.receive(connection.socket(), codes.rspWhat, bufferSize));
+  if (!announced) {
+    session.end(ToviOutcome::NoReply);
+    return std::nullopt;
+  }
+  std::string joined;
+  session.end(ToviOutcome::Done);
+  for (int left = announcedParts(announced); left > 0; --left) {
+    const std::optional<std::string> part =
+        session.receive(connection.socket(), codes.partWhat, bufferSize);
+    if (!part) {
+      session.end(ToviOutcome::NoReply);
+      break;
+    }
+    joined.append(*part, 1);
+  }
+  return joined;
+}
 
 }  // namespace
 
@@ -41,11 +75,11 @@ int ToviTraffic::setCustomResolution(int width, int height, int refreshRate) {
   request.addInt("width", width);
   request.addInt("height", height);
   request.addInt("refreshRate", refreshRate);
-  return Operation(*this, command("setCustomResolution")).setText(request.toText(), BIG_SIZE);
+  return Operation(*this, "setCustomResolution").set(request.toText());
 }
 
 ResolutionInfo ToviTraffic::getCurrentResolution() {
-  const JsonReply reply(Operation(*this, command("getCurrentResolution")));
+  const JsonReply reply(Operation(*this, "getCurrentResolution"));
   return {reply.result(), reply.text("value")};
 }
 
@@ -54,11 +88,11 @@ int ToviTraffic::setEdidInfo(EdidInfo info) {
   request.addInt("fieldRate", info.fieldRate);
   request.addInt("width", info.width);
   request.addInt("height", info.height);
-  return Operation(*this, command("setEdidInfo")).setText(request.toText(), BIG_SIZE);
+  return Operation(*this, "setEdidInfo").set(request.toText());
 }
 
 EdidInfo ToviTraffic::getEdidInfo() {
-  const JsonReply reply(Operation(*this, command("getEdidInfo")));
+  const JsonReply reply(Operation(*this, "getEdidInfo"));
   return {reply.result(), reply.number("width"), reply.number("height"), reply.number("fieldRate")};
 }
 
@@ -69,58 +103,93 @@ int ToviTraffic::setVideoControlInfo(int videoSource) {
   request.addInt("offsetY", 0);
   request.addInt("videoMode", 1);
   request.addInt("videoSource", videoSource);
-  return Operation(*this, command("setVideoControlInfo")).setText(request.toText(), BIG_SIZE);
+  return Operation(*this, "setVideoControlInfo").set(request.toText());
 }
 
 VideoControlInfo ToviTraffic::getVideoControlInfo() {
-  const JsonReply reply(Operation(*this, command("getVideoControlInfo")));
+  const JsonReply reply(Operation(*this, "getVideoControlInfo"));
   return {reply.result(), reply.number("videoSource")};
 }
 
-CpuAndMemoryInfo ToviTraffic::getCpuAndMemoryInfo() {
-  const JsonReply reply(Operation(*this, command("getCpuAndMemoryInfo")));
-  return {reply.result(), reply.text("cpuUsage"), reply.text("diskTotal"), reply.text("diskFree")};
+std::string ToviTraffic::getSupportVideoSource() {
+  return Operation(*this, "getSupportVideoSource").askText();
 }
 
 DeviceSize ToviTraffic::getDeviceSize() {
-  const Reply reply = Operation(*this, command("getDeviceSize")).ask(atLeast(5));
+  const Reply reply = Operation(*this, "getDeviceSize").ask(atLeast(5));
   DeviceSize size;
   if (reply) size = {reply.unsignedShort(1), reply.unsignedShort(3)};
   return size;
 }
 
-DeviceMemorySize ToviTraffic::getDeviceMemorySize() {
-  const Reply reply = Operation(*this, command("getDeviceMemorySize")).ask(atLeast(9));
-  DeviceMemorySize size;
-  if (reply) size = {reply.integer(1), reply.integer(5)};
-  return size;
-}
-
 void ToviTraffic::setAntiAliasing(bool first, bool second, bool third) {
-  Operation(*this, command("setAntiAliasing")).set(bytes({first, second, third}));
+  Operation(*this, "setAntiAliasing").set(bytes({first, second, third}));
 }
 
 TextAttr ToviTraffic::getAntiAliasing() {
-  const Reply reply = Operation(*this, command("getAntiAliasing")).ask(atLeast(4));
+  const Reply reply = Operation(*this, "getAntiAliasing").ask(atLeast(4));
   return {reply.isOne(1), reply.isOne(2), reply.isOne(3)};
 }
 
 bool ToviTraffic::setSyncPlay(bool on) {
-  return Operation(*this, command("setSyncPlay")).set(bytes({on})) == SUCCESS;
+  return Operation(*this, "setSyncPlay").set(bytes({on})) == SUCCESS;
 }
 
-bool ToviTraffic::getSyncPlay() {
-  return Operation(*this, command("getSyncPlay")).set() == SUCCESS;
+bool ToviTraffic::getSyncPlay() { return Operation(*this, "getSyncPlay").set() == SUCCESS; }
+
+int ToviTraffic::setPreStoredScreenEnabled(bool on) {
+  return Operation(*this, "setPreStoredScreenEnabled").askByte(3, bytes({kSet, on}));
+}
+
+PreStoredScreenEnabled ToviTraffic::getPreStoredScreenEnabled() {
+  const Reply reply =
+      Operation(*this, "getPreStoredScreenEnabled").ask(atLeast(5), bytes({kQuery}));
+  PreStoredScreenEnabled enabled;
+  if (reply) enabled = {reply.signedByte(3), reply.signedByte(4)};
+  return enabled;
 }
 
 int ToviTraffic::setFont(const std::string& font) {
-  return Operation(*this, command("setFont")).setText(font, kFontText);
+  return Operation(*this, "setFont").setText(font);
 }
 
-int ToviTraffic::setAdvanceTiming(const std::string& timing) {
-  return Operation(*this, command("setAdvanceTiming")).setText(timing, kTimingText);
+std::string ToviTraffic::getFontList() { return Operation(*this, "getFontList").askText(); }
+
+ScreenPointDetect ToviTraffic::startScreenPointDetect() {
+  Operation operation(*this, "startScreenPointDetect");
+  const Reply reply = operation.ask(atLeast(6));
+  if (!reply) return {};
+  if (!reply.isOne(1)) return operation.end(ToviOutcome::Rejected, ScreenPointDetect());
+  return {1, reply.integer(2)};
 }
 
-int ToviTraffic::removeAdvanceTiming() {
-  return Operation(*this, command("removeAdvanceTiming")).set(bytes({1}));
+std::string ToviTraffic::getDetectErrorPointInfo() {
+  constexpr const wire::Command& kDetect = wire::command("startScreenPointDetect");
+  constexpr const wire::Command& kParts = wire::command("getDetectErrorPointData");
+  Call call(*this, "getDetectErrorPointInfo");
+  Session session = call.session();
+  Connection connection(session);
+  if (!connection) return call.end(ToviOutcome::NoConnection, "");
+  const Reply detected(session.askOn(connection.socket(), wire::wideCode(kDetect.request),
+                                     wire::wideCode(kDetect.reply), {}, kDetect.buffer));
+  if (!detected) return "";
+  const Codes codes{wire::wideCode(kParts.request), wire::wideCode(kParts.reply),
+                    wire::wideCode(kParts.reply)};
+  const std::optional<std::string> joined = askParts(session, connection, codes, {}, kParts.buffer);
+  if (!joined) return "";
+  tellRelease();  // the parts were one reply to hosts
+  return *joined;
+}
+
+// Kept: the interface names it.
+SocketResult* ToviTraffic::getDetectErrorPointData(std::uint64_t socket, char what, char rspWhat,
+                                                   char partWhat, char* data, int len,
+                                                   int bufSize) {
+  const Codes codes{static_cast<signed char>(what), static_cast<signed char>(rspWhat),
+                    static_cast<signed char>(partWhat)};
+  Connection connection(Session(*this), socket);
+  const std::optional<std::string> joined =
+      askParts(Session(*this), connection, codes, viewOf(data, len), bufSize);
+  connection.release();  // the caller's, unless it broke
+  return joined ? new SocketResult(newArray(*joined), static_cast<int>(joined->size())) : nullptr;
 }

@@ -1,13 +1,8 @@
 // Restart, clean state, and what only service staff use.
-#include <tovisdk/tovi_traffic.h>
+#include "session/operation.h"
 
-#include "device/operation.h"
-
-using tovi::device::atLeast;
-using tovi::device::bytes;
-using tovi::device::Operation;
-using tovi::device::Reply;
-using tovi::wire::command;
+using namespace tovi;
+using namespace tovi::session;
 
 namespace {
 
@@ -19,12 +14,12 @@ constexpr int kSet = 1;
 
 }  // namespace
 
-int ToviTraffic::restartDevice() { return Operation(*this, command("restartDevice")).set(); }
+int ToviTraffic::restartDevice() { return Operation(*this, "restartDevice").set(); }
 
-void ToviTraffic::sendHeartBeat() { Operation(*this, command("sendHeartBeat")).set(bytes({0})); }
+void ToviTraffic::sendHeartBeat() { Operation(*this, "sendHeartBeat").set(bytes({0})); }
 
 int ToviTraffic::setCloseScreenTemperature(int temperature) {
-  Operation operation(*this, command("setCloseScreenTemperature"));
+  Operation operation(*this, "setCloseScreenTemperature");
   if (temperature < 0 || temperature > kMaxCloseTemperature) {
     return operation.refuse("the temperature is not 0 to 150");
   }
@@ -32,49 +27,49 @@ int ToviTraffic::setCloseScreenTemperature(int temperature) {
 }
 
 int ToviTraffic::getCloseScreenTemperature() {
-  const int value = Operation(*this, command("getCloseScreenTemperature")).askByte(6, -1);
-  return mOutcome == ToviOutcome::BadReply ? SEND_NOT_RECV_ERROR : value;
+  Operation operation(*this, "getCloseScreenTemperature");
+  const int value = operation.askByte(6);
+  return operation.outcome() == ToviOutcome::BadReply ? SEND_NOT_RECV_ERROR : value;
 }
 
 int ToviTraffic::solidify(unsigned char value) {
-  return Operation(*this, command("solidify")).askFlag(bytes({value}));
+  return Operation(*this, "solidify").askFlag(bytes({value}));
 }
 
-int ToviTraffic::backups() {
-  return Operation(*this, command("backups")).askByte(3, -1, bytes({kSet}));
-}
+int ToviTraffic::backups() { return Operation(*this, "backups").askByte(3, bytes({kSet})); }
 
 BackUpsInfo* ToviTraffic::getBackupsTimes() {
-  const Reply reply = Operation(*this, command("getBackupsTimes")).ask(atLeast(5), bytes({kQuery}));
+  const Reply reply = Operation(*this, "getBackupsTimes").ask(atLeast(5), bytes({kQuery}));
   BackUpsInfo* info = new BackUpsInfo;
   if (!reply) return info;
   info->state = reply.signedByte(3);
-  if (info->state == 1) info->times = reply.hexText(4);
+  if (info->state == 1) info->times = hexText(reply.from(4));
   return info;
 }
 
 int ToviTraffic::setSSHEnabled(bool on) {
-  return Operation(*this, command("setSSHEnabled")).askFlag(bytes({kSet, on}));
+  return Operation(*this, "setSSHEnabled").askFlag(bytes({kSet, on}));
 }
 
 int ToviTraffic::getSSHEnabled() {
-  const Reply reply = Operation(*this, command("getSSHEnabled")).ask(atLeast(4), bytes({kQuery}));
+  Operation operation(*this, "getSSHEnabled");
+  const Reply reply = operation.ask(atLeast(4), bytes({kQuery}));
   if (!reply) return -1;
-  if (reply.unsignedByte(2) != 0) {
-    mOutcome = ToviOutcome::Rejected;
-    return -1;
-  }
+  if (reply.unsignedByte(2) != 0) return operation.end(ToviOutcome::Rejected, -1);
   return reply.unsignedByte(3) != 0 ? 1 : 0;
 }
 
-int ToviTraffic::setPreStoredScreenEnabled(bool on) {
-  return Operation(*this, command("setPreStoredScreenEnabled")).askByte(3, -1, bytes({kSet, on}));
+std::string ToviTraffic::getLogZipPath() { return Operation(*this, "getLogZipPath").askText(); }
+
+int ToviTraffic::setSensorInfo(const std::string& info) {
+  return Operation(*this, "setSensorInfo").setText(info);
 }
 
-PreStoredScreenEnabled ToviTraffic::getPreStoredScreenEnabled() {
-  const Reply reply =
-      Operation(*this, command("getPreStoredScreenEnabled")).ask(atLeast(5), bytes({kQuery}));
-  PreStoredScreenEnabled enabled;
-  if (reply) enabled = {reply.signedByte(3), reply.signedByte(4)};
-  return enabled;
+std::string ToviTraffic::getSensorInfo() { return Operation(*this, "getSensorInfo").askText(); }
+
+int ToviTraffic::removeAppPageName(const std::string& package) {
+  Operation operation(*this, "removeAppPageName");
+  return package.empty() ? operation.refuse("the name is empty") : operation.setText(package);
 }
+
+int ToviTraffic::clearCache() { return Operation(*this, "clearCache").askFlag(); }

@@ -1,11 +1,8 @@
 // The controller's own secure mode.
-#include <tovisdk/tovi_traffic.h>
+#include "session/operation.h"
 
-#include "device/operation.h"
-
-using tovi::device::bytes;
-using tovi::device::Operation;
-using tovi::wire::command;
+using namespace tovi;
+using namespace tovi::session;
 
 namespace {
 
@@ -15,14 +12,14 @@ constexpr char kSeparator[] = "\x91\x21";
 
 }  // namespace
 
-int ToviTraffic::getIsSecret() { return Operation(*this, command("getIsSecret")).askFlag(); }
+int ToviTraffic::getIsSecret() { return Operation(*this, "getIsSecret").askFlag(); }
 
 bool ToviTraffic::setDeviceKey(const std::string& key) {
-  return Operation(*this, command("setDeviceKey")).askFlag(key) == SUCCESS;
+  return Operation(*this, "setDeviceKey").askFlag(key) == SUCCESS;
 }
 
 int ToviTraffic::setDeviceSecretParam(DeviceSecretParam param, bool includeSecondKey) {
-  Operation operation(*this, command("setDeviceSecretParam"));
+  Operation operation(*this, "setDeviceSecretParam");
   if (param.label.empty() || param.label.size() > kMaxLabel) {
     return operation.refuse("the label is not 1 to 16 characters");
   }
@@ -32,16 +29,13 @@ int ToviTraffic::setDeviceSecretParam(DeviceSecretParam param, bool includeSecon
     payload += param.key;
   }
   if (includeSecondKey) {
-    if (param.secondKey.size() != kKeyLength)
+    if (param.secondKey.size() != kKeyLength) {
       return operation.refuse("the second key is not 8 characters");
-    payload += kSeparator;
-    payload += param.secondKey;
+    }
+    payload += kSeparator + param.secondKey;
   }
   const int result = operation.set(payload);
-  // The controller's mode has changed: the next reply wants a parser made for the keys of then.
-  if (result == SUCCESS && mProtocalParser != nullptr) {
-    delete mProtocalParser;
-    mProtocalParser = nullptr;
-  }
+  // The controller's mode has changed.
+  if (result == SUCCESS) operation.session().renewParser();
   return result;
 }

@@ -1,37 +1,26 @@
-// The three timetables and the automatic brightness curve.
+// The three timetables and the advance timing.
 #include <tovisdk/codec.h>
-#include <tovisdk/tovi_traffic.h>
 
 #include <memory>
 
-#include "device/operation.h"
+#include "session/operation.h"
 
-using tovi::device::atLeast;
-using tovi::device::bytes;
-using tovi::device::exactly;
-using tovi::device::Operation;
-using tovi::device::Reply;
-using tovi::wire::command;
+using namespace tovi;
+using namespace tovi::session;
 
 namespace {
 
-// What the brightness command takes besides a level set by hand.
-constexpr int kAutomatic = 1;
+// What the brightness command takes to follow its timetable.
 constexpr int kByTimetable = 3;
 
 constexpr int kTimeSize = 7;  // day, month, year in two bytes, second, minute, hour
 constexpr int kEntriesOffset = 2;
 constexpr int kValueOffset = 2 * kTimeSize;
 
-constexpr int kCurvePoints = 8;
-constexpr int kCurveReplySize = 25;
-
 // Fields go out as they stand; they come back as `tm` has them. Hosts rely on both.
 std::string encodeTime(const std::tm& time) {
-  std::string text =
-      bytes({time.tm_mday, time.tm_mon, 0, 0, time.tm_sec, time.tm_min, time.tm_hour});
-  shortToBytes(text.data(), 2, static_cast<short>(time.tm_year));
-  return text;
+  return bytes({time.tm_mday, time.tm_mon}) + lowFirst(time.tm_year) +
+         bytes({time.tm_sec, time.tm_min, time.tm_hour});
 }
 
 std::tm decodeTime(const Reply& reply, int offset) {
@@ -85,68 +74,41 @@ std::list<Entry>* askList(Operation operation) {
   return list.release();
 }
 
-// The mode goes first, unless what shall follow it cannot.
-int setInMode(Operation operation, int mode, const std::string& payload) {
-  if (!operation.fits(payload)) return ToviTraffic::ARGUMENT_ERROR;
-  const int result = operation.step(command("setBrightness"), bytes({mode, 0}));
-  return result == ToviTraffic::SUCCESS ? operation.set(payload) : result;
-}
-
 }  // namespace
 
 int ToviTraffic::setDevicePowerByTimeList(std::list<DevicePowerByTimeParam> list) {
-  return Operation(*this, command("setDevicePowerByTimeList")).set(encodeList(list));
+  return Operation(*this, "setDevicePowerByTimeList").set(encodeList(list));
 }
 
 std::list<DevicePowerByTimeParam>* ToviTraffic::getDevicePowerByTimeList() {
-  return askList<DevicePowerByTimeParam>(Operation(*this, command("getDevicePowerByTimeList")));
+  return askList<DevicePowerByTimeParam>(Operation(*this, "getDevicePowerByTimeList"));
 }
 
 int ToviTraffic::setPlayByTimeList(std::list<PlayByTimeParam> list) {
-  return Operation(*this, command("setPlayByTimeList")).set(encodeList(list));
+  return Operation(*this, "setPlayByTimeList").set(encodeList(list));
 }
 
 std::list<PlayByTimeParam>* ToviTraffic::getPlayByTimeList() {
-  return askList<PlayByTimeParam>(Operation(*this, command("getPlayByTimeList")));
+  return askList<PlayByTimeParam>(Operation(*this, "getPlayByTimeList"));
 }
 
 int ToviTraffic::setBrightnessByTimeList(std::list<BrightnessByTimeParam> list) {
-  return setInMode(Operation(*this, command("setBrightnessByTimeList")), kByTimetable,
-                   encodeList(list));
+  return Operation(*this, "setBrightnessByTimeList")
+      .setAfter("setBrightness", bytes({kByTimetable, 0}), encodeList(list));
 }
 
 std::list<BrightnessByTimeParam>* ToviTraffic::getBrightnessByTimeList() {
-  return askList<BrightnessByTimeParam>(Operation(*this, command("getBrightnessByTimeList")));
+  return askList<BrightnessByTimeParam>(Operation(*this, "getBrightnessByTimeList"));
 }
 
-int ToviTraffic::setBrightnessAuto(BrightnessItem* item) {
-  Operation operation(*this, command("setBrightnessAuto"));
-  if (item == nullptr) return operation.refuse("the curve is null");
-  std::string payload;
-  for (const BrightnessPoint& point : item->points) {
-    payload += bytes({point.environmentBrightness, point.screenBrightness, 0});
-  }
-  return setInMode(operation, kAutomatic, payload);
+int ToviTraffic::setAdvanceTiming(const std::string& timing) {
+  return Operation(*this, "setAdvanceTiming").setText(timing);
 }
 
-BrightnessItem* ToviTraffic::getBrightnessAuto() {
-  const Reply reply = Operation(*this, command("getBrightnessAuto")).ask(exactly(kCurveReplySize));
-  if (!reply) return nullptr;
-  BrightnessItem* item = new BrightnessItem;
-  for (int k = 0; k < kCurvePoints; ++k) {
-    item->points[k] = {reply.unsignedByte(3 * k + 1), reply.unsignedByte(3 * k + 2)};
-  }
-  return item;
+std::string ToviTraffic::getAdvanceTiming() {
+  return Operation(*this, "getAdvanceTiming").askText(bytes({1}));
 }
 
-bool ToviTraffic::setAutoBrightnessTimeParam(char first, char second) {
-  Operation operation(*this, command("setAutoBrightnessTimeParam"));
-  if (first == 0 || second == 0) {
-    operation.refuse("neither value may be 0");
-    return false;
-  }
-  const Reply reply = operation.ask(atLeast(2), bytes({first, second}));
-  if (!reply) return false;
-  if (!reply.isOne(1)) mOutcome = ToviOutcome::Rejected;
-  return reply.isOne(1);
+int ToviTraffic::removeAdvanceTiming() {
+  return Operation(*this, "removeAdvanceTiming").set(bytes({1}));
 }

@@ -5,6 +5,7 @@
 
 #include "foundation/log.h"
 #include "platform/sockets.h"
+#include "wire/packet_receiver.h"
 
 namespace platform = tovi::platform;
 
@@ -24,6 +25,23 @@ char* newAddress(const char* ip) {
     std::memcpy(address, ip, length);
   }
   return address;
+}
+
+// A connected socket, or 0.
+std::uint64_t connectTo(const char* ip, unsigned short port, int timeout) {
+  const platform::Socket socket = platform::openSocket();
+  if (socket == platform::kInvalidSocket) {
+    tovi::log::error("ToviTraffic::getSocket create socket error");
+    return 0;
+  }
+  platform::setTimeouts(socket, timeout);
+  if (!platform::connectSocket(socket, ip, port, timeout)) {
+    tovi::log::error("ToviTraffic::getSocket connect socket error");
+    platform::closeSocket(socket);
+    return 0;
+  }
+  tovi::log::info("ToviTraffic::getSocket return toviSocket");
+  return socket;
 }
 
 }  // namespace
@@ -80,7 +98,7 @@ ToviOutcome ToviTraffic::lastOutcome() const { return mOutcome; }
 
 void ToviTraffic::discardKeptBytes() {
   tovi::log::info("discardKeptBytes start");
-  if (mProtocalParser != nullptr) mProtocalParser->keep({});
+  if (mProtocalParser != nullptr) tovi::wire::Receiver(*mProtocalParser).forget();
 }
 
 std::uint64_t ToviTraffic::getSocket() {
@@ -102,24 +120,8 @@ std::uint64_t ToviTraffic::getSocket() {
     case platform::StartUp::Ready:
       break;
   }
-  const std::uint64_t socket = connectToController();
+  const std::uint64_t socket = connectTo(mIp, mPort, mTimeout);
   if (socket == 0) platform::cleanUpSockets();
-  return socket;
-}
-
-std::uint64_t ToviTraffic::connectToController() {
-  const platform::Socket socket = platform::openSocket();
-  if (socket == platform::kInvalidSocket) {
-    tovi::log::error("ToviTraffic::getSocket create socket error");
-    return 0;
-  }
-  platform::setTimeouts(socket, mTimeout);
-  if (!platform::connectSocket(socket, mIp, mPort, mTimeout)) {
-    tovi::log::error("ToviTraffic::getSocket connect socket error");
-    platform::closeSocket(socket);
-    return 0;
-  }
-  tovi::log::info("ToviTraffic::getSocket return toviSocket");
   return socket;
 }
 

@@ -1,102 +1,130 @@
 // The exchange patterns: a setting that answers with a status byte, and a query.
-#include <tovisdk/tovi_traffic.h>
-
-#include <memory>
-
+#include "foundation/bytes.h"
 #include "foundation/log.h"
+#include "session/session.h"
 #include "wire/command_table.h"
 
-int ToviTraffic::normalSet(char what, char rspWhat, char* data, int len) {
-  const std::uint64_t socket = getSocket();
-  if (socket == 0) {
-    tovi::log::error("ToviTraffic::normalSet socket error");
-    mOutcome = ToviOutcome::NoConnection;
-    return SOCKET_ERROR_CODE;
+namespace tovi::session {
+
+static_assert(ToviTraffic::TEMP_SIZE == wire::kShortReply);
+static_assert(ToviTraffic::BIG_SIZE == wire::kBigReply);
+static_assert(ToviTraffic::SCREENSHOT_SIZE == wire::kPictureReply);
+
+int Session::set(short what, short rspWhat, std::string_view payload) {
+  const Connection connection(*this);
+  if (!connection) {
+    log::error("ToviTraffic::normalSet socket error");
+    return end(ToviOutcome::NoConnection, ToviTraffic::SOCKET_ERROR_CODE);
   }
-  const bool sent =
-      sendPacket(socket, tovi::wire::wideCode(static_cast<unsigned char>(what)), data, len) >= 0;
-  if (rspWhat == static_cast<char>(tovi::wire::kNoReply)) {
-    tovi::log::error("ToviTraffic::normalSet don't need wiat rsp");
-    closeSocket(socket);
-    mOutcome = sent ? ToviOutcome::Done : ToviOutcome::SendFailed;
-    return SUCCESS;
+  const bool sent = send(connection.socket(), what, payload) >= 0;
+  if (rspWhat == wire::wideCode(wire::kNoReply)) {
+    log::error("ToviTraffic::normalSet don't need wiat rsp");
+    return end(sent ? ToviOutcome::Done : ToviOutcome::SendFailed, ToviTraffic::SUCCESS);
   }
-  int size = 0;
-  const std::unique_ptr<char[]> package(
-      recv(socket, tovi::wire::wideCode(static_cast<unsigned char>(rspWhat)), &size));
-  int result = SUCCESS;
-  if (package == nullptr) {
-    tovi::log::error("ToviTraffic::normalSet recvBuf is null, result = SEND_NOT_RECV_ERROR");
-    mOutcome = sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed;
-    result = SEND_NOT_RECV_ERROR;
-  } else if (size > 1 && package[1] != SUCCESS) {
-    tovi::log::error("ToviTraffic::normalSet recvBuf result = %c, result = SEND_RECV_ERROR",
-                     package[1]);
-    mOutcome = ToviOutcome::Rejected;
-    result = SEND_RECV_ERROR;
-  } else {
-    tovi::log::info("ToviTraffic::normalSet success");
-    mOutcome = ToviOutcome::Done;
+  const std::optional<std::string> package =
+      receive(connection.socket(), rspWhat, ToviTraffic::TEMP_SIZE);
+  if (!package) {
+    log::error("ToviTraffic::normalSet recvBuf is null, result = SEND_NOT_RECV_ERROR");
+    return end(sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed,
+               ToviTraffic::SEND_NOT_RECV_ERROR);
   }
-  closeSocket(socket);
-  return result;
+  if (package->size() > 1 && (*package)[1] != ToviTraffic::SUCCESS) {
+    log::error("ToviTraffic::normalSet recvBuf result = %c, result = SEND_RECV_ERROR",
+               (*package)[1]);
+    return end(ToviOutcome::Rejected, ToviTraffic::SEND_RECV_ERROR);
+  }
+  log::info("ToviTraffic::normalSet success");
+  return end(ToviOutcome::Done, ToviTraffic::SUCCESS);
 }
 
+// Nothing with the outcome SendFailed or NoReply.
+std::optional<std::string> Session::exchange(std::uint64_t socket, short what, short rspWhat,
+                                             std::string_view payload, int bufferSize) {
+  const int sent = send(socket, what, payload);
+  if (sent < 0) {
+    log::error("ToviTraffic::getData socket send error code:%d req:%d", sent, what);
+    end(ToviOutcome::SendFailed);
+    return std::nullopt;
+  }
+  // Written as an error although it is none: hosts filter their logs for it.
+  log::error("ToviTraffic::getData socket send success :%d", what);
+  std::optional<std::string> package = receive(socket, rspWhat, bufferSize);
+  end(package ? ToviOutcome::Done : ToviOutcome::NoReply);
+  return package;
+}
+
+std::optional<std::string> Session::ask(short what, short rspWhat, std::string_view payload,
+                                        int bufferSize) {
+  std::optional<std::string> package;
+  {
+    const Connection connection(*this);
+    if (!connection) {
+      log::error("ToviTraffic::getData socket error");
+      end(ToviOutcome::NoConnection);
+      return std::nullopt;
+    }
+    package = exchange(connection.socket(), what, rspWhat, payload, bufferSize);
+  }
+  return toldOf(std::move(package));
+}
+
+std::optional<std::string> Session::askOn(std::uint64_t socket, short what, short rspWhat,
+                                          std::string_view payload, int bufferSize) {
+  return toldOf(exchange(socket, what, rspWhat, payload, bufferSize));
+}
+
+std::optional<std::string> Session::toldOf(std::optional<std::string> package) const {
+  if (package) {
+    log::info("ToviTraffic::getData socket recv success. recv size = %d",
+              static_cast<int>(package->size()));
+  } else if (outcome() == ToviOutcome::NoReply) {
+    log::error("ToviTraffic::getData socket recv error");
+  }
+  return package;
+}
+
+}  // namespace tovi::session
+
+using tovi::session::Session;
+
+namespace {
+
+SocketResult* newResult(const std::optional<std::string>& package) {
+  return package ? new SocketResult(tovi::newArray(*package), static_cast<int>(package->size()))
+                 : nullptr;
+}
+
+}  // namespace
+
+// Kept: the interface names it.
+int ToviTraffic::normalSet(char what, char rspWhat, char* data, int len) {
+  return Session(*this).set(static_cast<signed char>(what), static_cast<signed char>(rspWhat),
+                            tovi::viewOf(data, len));
+}
+
+// Kept: the interface names it.
 SocketResult* ToviTraffic::getData(short what, short rspWhat, char* data, int len) {
   return getData(what, rspWhat, data, len, TEMP_SIZE);
 }
 
+// Kept: the interface names it.
+SocketResult* ToviTraffic::getData(short what, short rspWhat, char* data, int len, int bufSize) {
+  return newResult(Session(*this).ask(what, rspWhat, tovi::viewOf(data, len), bufSize));
+}
+
+// Kept: the interface names it.
 SocketResult* ToviTraffic::getBigData(short what, short rspWhat, char* data, int len) {
   return getData(what, rspWhat, data, len, BIG_SIZE);
 }
 
-SocketResult* ToviTraffic::getData(short what, short rspWhat, char* data, int len, int bufSize) {
-  const std::uint64_t socket = getSocket();
-  if (socket == 0) {
-    tovi::log::error("ToviTraffic::getData socket error");
-    mOutcome = ToviOutcome::NoConnection;
-    return nullptr;
-  }
-  int size = 0;
-  char* package = sendAndReceive(socket, what, rspWhat, data, len, bufSize, &size);
-  closeSocket(socket);
-  return newResult(package, size);
-}
-
+// Kept: the interface names it.
 SocketResult* ToviTraffic::getData(std::uint64_t socket, short what, short rspWhat, char* data,
                                    int len) {
   return getData(socket, what, rspWhat, data, len, TEMP_SIZE);
 }
 
+// Kept: the interface names it.
 SocketResult* ToviTraffic::getData(std::uint64_t socket, short what, short rspWhat, char* data,
                                    int len, int bufSize) {
-  int size = 0;
-  char* package = sendAndReceive(socket, what, rspWhat, data, len, bufSize, &size);
-  return newResult(package, size);
-}
-
-// Null with the outcome SendFailed or NoReply.
-char* ToviTraffic::sendAndReceive(std::uint64_t socket, short what, short rspWhat, char* data,
-                                  int len, int bufSize, int* outLen) {
-  const int sent = sendPacket(socket, what, data, len);
-  if (sent < 0) {
-    tovi::log::error("ToviTraffic::getData socket send error code:%d req:%d", sent, what);
-    mOutcome = ToviOutcome::SendFailed;
-    return nullptr;
-  }
-  // Written as an error although it is none: hosts filter their logs for it.
-  tovi::log::error("ToviTraffic::getData socket send success :%d", what);
-  char* package = recv(socket, rspWhat, outLen, bufSize);
-  mOutcome = package == nullptr ? ToviOutcome::NoReply : ToviOutcome::Done;
-  return package;
-}
-
-SocketResult* ToviTraffic::newResult(char* package, int len) {
-  if (package == nullptr) {
-    if (mOutcome == ToviOutcome::NoReply)
-      tovi::log::error("ToviTraffic::getData socket recv error");
-    return nullptr;
-  }
-  tovi::log::info("ToviTraffic::getData socket recv success. recv size = %d", len);
-  return new SocketResult(package, len);
+  return newResult(Session(*this).askOn(socket, what, rspWhat, tovi::viewOf(data, len), bufSize));
 }

@@ -1,8 +1,11 @@
+// The three key slots.
 #include <tovisdk/tovi_traffic.h>
 
 #include <cstring>
 
+#include "foundation/bytes.h"
 #include "foundation/log.h"
+#include "session/session.h"
 
 namespace {
 
@@ -37,8 +40,7 @@ bool checkPassword(const char* password, const char* setter, char*& slot) {
 }
 
 void store(const char* password, char*& slot) {
-  char* copy = new char[kPasswordLength + 1];
-  std::memcpy(copy, password, kPasswordLength + 1);
+  char* copy = tovi::newArray(password);
   delete[] slot;
   slot = copy;
 }
@@ -56,23 +58,23 @@ void ToviTraffic::setDesKey(const char* password) {
                   tovi::log::shownKey(mDesKey));
 }
 
+// Both setters write the records of setAesKey.
+void tovi::session::Session::storeAesOrSm4Key(const char* password, char*& slot) {
+  if (!checkPassword(password, "setAesKey", slot)) return;
+  sayCleared(mTraffic.mAesKey, kClearDesInAes);
+  sayCleared(mTraffic.mDesKey, kClearAesInAes);
+  sayCleared(mTraffic.mSm4Key, kClearAesInDes);
+  store(password, slot);
+}
+
 void ToviTraffic::setAesKey(const char* password) {
   tovi::log::info("setAesKey start");
-  storeAesOrSm4Key(password, mAesKey);
+  tovi::session::Session(*this).storeAesOrSm4Key(password, mAesKey);
 }
 
 void ToviTraffic::setSM4Key(const char* password) {
   tovi::log::info("setSM4Key start");
-  storeAesOrSm4Key(password, mSm4Key);
-}
-
-// Both setters write the records of setAesKey.
-void ToviTraffic::storeAesOrSm4Key(const char* password, char*& slot) {
-  if (!checkPassword(password, "setAesKey", slot)) return;
-  sayCleared(mAesKey, kClearDesInAes);
-  sayCleared(mDesKey, kClearAesInAes);
-  sayCleared(mSm4Key, kClearAesInDes);
-  store(password, slot);
+  tovi::session::Session(*this).storeAesOrSm4Key(password, mSm4Key);
 }
 
 void ToviTraffic::clearPassword() {

@@ -1,98 +1,111 @@
 // The receive loop.
-#include <tovisdk/tovi_traffic.h>
-
 #include <algorithm>
 #include <cstring>
-#include <memory>
 
+#include "foundation/bytes.h"
 #include "foundation/log.h"
 #include "platform/sockets.h"
 #include "platform/system.h"
+#include "session/session.h"
 #include "wire/frame.h"
+#include "wire/packet_receiver.h"
 
+namespace tovi::session {
 namespace {
 
 constexpr int kPauseMs = 500;
 
 // A parser owns the key it is given, so it gets a copy.
 ProtocalParser* newCipherParser(const char* key, int mode) {
-  const std::size_t size = std::strlen(key) + 1;
-  std::unique_ptr<char[]> copy(new char[size]);
-  std::memcpy(copy.get(), key, size);
-  return new ProtocalParser(copy.release(), mode);
+  return new ProtocalParser(newArray(key), mode);
 }
 
 }  // namespace
 
-ProtocalParser* ToviTraffic::newParser() const {
-  using tovi::log::shownKey;
-  if (mDesKey != nullptr) {
-    tovi::log::info("ToviTraffic::recv create protocalParser des mode, des key = %s",
-                    shownKey(mDesKey));
-    return newCipherParser(mDesKey, tovi::wire::kDes);
+ProtocalParser* Session::newParser() const {
+  if (mTraffic.mDesKey != nullptr) {
+    log::info("ToviTraffic::recv create protocalParser des mode, des key = %s",
+              log::shownKey(mTraffic.mDesKey));
+    return newCipherParser(mTraffic.mDesKey, wire::kDes);
   }
-  if (mAesKey != nullptr) {
+  if (mTraffic.mAesKey != nullptr) {
     // The record names the wrong cipher; readers of these logs know it so.
-    tovi::log::info("ToviTraffic::recv create protocalParser aes mode, des key = %s",
-                    shownKey(mAesKey));
-    return newCipherParser(mAesKey, tovi::wire::kAes);
+    log::info("ToviTraffic::recv create protocalParser aes mode, des key = %s",
+              log::shownKey(mTraffic.mAesKey));
+    return newCipherParser(mTraffic.mAesKey, wire::kAes);
   }
-  if (mSm4Key != nullptr) {
-    tovi::log::info("ToviTraffic::recv create protocalParser sm4 mode, sm4 key = %s",
-                    shownKey(mSm4Key));
-    return newCipherParser(mSm4Key, tovi::wire::kSm4);
+  if (mTraffic.mSm4Key != nullptr) {
+    log::info("ToviTraffic::recv create protocalParser sm4 mode, sm4 key = %s",
+              log::shownKey(mTraffic.mSm4Key));
+    return newCipherParser(mTraffic.mSm4Key, wire::kSm4);
   }
-  tovi::log::info("ToviTraffic::recv create protocalParser normal mode");
+  log::info("ToviTraffic::recv create protocalParser normal mode");
   return new ProtocalParser();
+}
+
+void Session::renewParser() {
+  delete mTraffic.mProtocalParser;
+  mTraffic.mProtocalParser = nullptr;
 }
 
 // In server mode the socket's options are the host's; a shorter time-out that it has set there
 // holds.
-int ToviTraffic::receiveTimeout(std::uint64_t socket) const {
-  if (mSocket == 0) return mTimeout;
-  const int own = tovi::platform::receiveTimeout(socket);
-  if (own == 0 || mTimeout == 0) return std::max(own, mTimeout);
-  return std::min(own, mTimeout);
+int Session::receiveTimeout(std::uint64_t socket) const {
+  const int ours = mTraffic.mTimeout;
+  if (mTraffic.mSocket == 0) return ours;
+  const int own = platform::receiveTimeout(socket);
+  if (own == 0 || ours == 0) return std::max(own, ours);
+  return std::min(own, ours);
 }
 
-char* ToviTraffic::recv(std::uint64_t socket, short what, int* outLen) {
-  return recv(socket, what, outLen, TEMP_SIZE);
-}
-
-char* ToviTraffic::recv(std::uint64_t socket, short what, int* outLen, int bufSize) {
-  tovi::log::info("ToviTraffic::recv start");
-  if (mProtocalParser == nullptr) mProtocalParser = newParser();
-  const std::unique_ptr<char[]> buffer(new char[static_cast<std::size_t>(bufSize)]);
-  int failures = 0;
-  char* package = nullptr;
-  while ((package = receiveOnce(socket, what, buffer.get(), bufSize)) == nullptr) {
-    if (++failures == MAX_FAIL_COUNT) {
-      tovi::log::error("ToviTraffic::recv recv failed count > MAX_FAIL_COUNT");
-      return nullptr;
+std::optional<std::string> Session::receive(std::uint64_t socket, short what, int bufferSize) {
+  log::info("ToviTraffic::recv start");
+  if (mTraffic.mProtocalParser == nullptr) mTraffic.mProtocalParser = newParser();
+  std::string buffer(static_cast<std::size_t>(bufferSize), '\0');
+  std::optional<std::string> package;
+  for (int failures = 0; !(package = receiveOnce(socket, what, buffer));) {
+    if (++failures == ToviTraffic::MAX_FAIL_COUNT) {
+      log::error("ToviTraffic::recv recv failed count > MAX_FAIL_COUNT");
+      return std::nullopt;
     }
-    tovi::platform::pauseFor(kPauseMs);
+    platform::pauseFor(kPauseMs);
   }
-  *outLen = mProtocalParser->packageLen;
-  tovi::log::info("ToviTraffic::recv recv buf end");
+  log::info("ToviTraffic::recv recv buf end");
   return package;
 }
 
 // One attempt: the kept bytes first, unless they were searched already.
-char* ToviTraffic::receiveOnce(std::uint64_t socket, short what, char* buffer, int bufSize) {
-  if (mProtocalParser->pendingLen > 0 && !mProtocalParser->needMore) {
-    tovi::log::info("ToviTraffic::recv start recvProc");
-    return mProtocalParser->recvProc(nullptr, 0, what);
+std::optional<std::string> Session::receiveOnce(std::uint64_t socket, short what,
+                                                std::string& buffer) {
+  wire::Receiver receiver(*mTraffic.mProtocalParser);
+  if (receiver.hasUnread()) {
+    log::info("ToviTraffic::recv start recvProc");
+    return receiver.receive({}, what);
   }
-  tovi::log::info("ToviTraffic::recv recv start");
-  char* package = nullptr;
-  const int received = tovi::platform::receiveSome(
-      socket, {buffer, static_cast<std::size_t>(bufSize)}, receiveTimeout(socket));
+  log::info("ToviTraffic::recv recv start");
+  std::optional<std::string> package;
+  const int received = platform::receiveSome(socket, buffer, receiveTimeout(socket));
   if (received == -1) {
-    tovi::log::info("ToviTraffic::recv recv erron = %d", tovi::platform::lastSocketError());
+    log::info("ToviTraffic::recv recv erron = %d", platform::lastSocketError());
   } else {
-    tovi::log::info("ToviTraffic::recv start recvProc");
-    package = mProtocalParser->recvProc(buffer, received, what);
+    log::info("ToviTraffic::recv start recvProc");
+    package = receiver.receive(viewOf(buffer.data(), received), what);
   }
-  tovi::log::info("ToviTraffic::recv recv start, recv result = %d", received);
+  log::info("ToviTraffic::recv recv start, recv result = %d", received);
   return package;
+}
+
+}  // namespace tovi::session
+
+// Kept: the interface names it.
+char* ToviTraffic::recv(std::uint64_t socket, short what, int* outLen) {
+  return recv(socket, what, outLen, TEMP_SIZE);
+}
+
+// Kept: the interface names it.
+char* ToviTraffic::recv(std::uint64_t socket, short what, int* outLen, int bufSize) {
+  const auto package = tovi::session::Session(*this).receive(socket, what, bufSize);
+  if (!package) return nullptr;
+  *outLen = static_cast<int>(package->size());
+  return tovi::newArray(*package);
 }

@@ -1,58 +1,55 @@
 // Requests: the choice of the cipher, and the one send that carries a frame.
-#include <tovisdk/codec.h>
-#include <tovisdk/packet.h>
-#include <tovisdk/tovi_traffic.h>
-
-#include <memory>
-#include <string>
-#include <string_view>
-
+#include "foundation/bytes.h"
 #include "foundation/log.h"
 #include "platform/sockets.h"
+#include "session/session.h"
 #include "wire/frame.h"
+#include "wire/packet_builder.h"
 
-using tovi::log::shownKey;
+namespace tovi::session {
 
-char* ToviTraffic::makeSendPacket(short what, char* data, int len, int* outLen) {
-  char frameWhat = static_cast<char>(what);
-  std::string extended;
-  if (what > tovi::wire::kExtendedCommand) {
-    frameWhat = static_cast<char>(tovi::wire::kExtendedCommand);
-    extended.resize(2);
-    shortToBytes(extended.data(), 0, what);
-    if (data != nullptr && len > 0) extended.append(data, static_cast<std::size_t>(len));
-    data = extended.data();
-    len = static_cast<int>(extended.size());
-  }
-
-  int mode = tovi::wire::kPlain;
-  char* key = nullptr;
-  if (mDesKey != nullptr && what != tovi::wire::kIsSecret) {
-    mode = tovi::wire::kDes;
-    key = mDesKey;
-    tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx des mode, des key = %s",
-                    shownKey(key));
-  } else if (mAesKey != nullptr && what != tovi::wire::kIsSecret) {
-    mode = tovi::wire::kAes;
-    key = mAesKey;
-    tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx aes mode, aes key = %s",
-                    shownKey(key));
-  } else if (mSm4Key != nullptr && what != tovi::wire::kIsSecret) {
-    mode = tovi::wire::kSm4;
-    key = mSm4Key;
-    tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx sm4 mode, sm4 key = %s",
-                    shownKey(key));
+std::string Session::frameOf(short what, std::string_view payload) const {
+  int mode = wire::kPlain;
+  const char* key = nullptr;
+  const bool mayBeEnciphered = what != wire::kIsSecret;
+  if (mTraffic.mDesKey != nullptr && mayBeEnciphered) {
+    mode = wire::kDes;
+    key = mTraffic.mDesKey;
+    log::info("ToviTraffic::makeSendPacket makeSendPacketEx des mode, des key = %s",
+              log::shownKey(key));
+  } else if (mTraffic.mAesKey != nullptr && mayBeEnciphered) {
+    mode = wire::kAes;
+    key = mTraffic.mAesKey;
+    log::info("ToviTraffic::makeSendPacket makeSendPacketEx aes mode, aes key = %s",
+              log::shownKey(key));
+  } else if (mTraffic.mSm4Key != nullptr && mayBeEnciphered) {
+    mode = wire::kSm4;
+    key = mTraffic.mSm4Key;
+    log::info("ToviTraffic::makeSendPacket makeSendPacketEx sm4 mode, sm4 key = %s",
+              log::shownKey(key));
   } else {
-    tovi::log::info("ToviTraffic::makeSendPacket makeSendPacketEx normal mode");
+    log::info("ToviTraffic::makeSendPacket makeSendPacketEx normal mode");
   }
-  return makeSendPacketEx(frameWhat, data, len, mode, key, outLen);
+  if (what <= wire::kExtendedCommand) {
+    return wire::makeFrame(static_cast<char>(what), payload, mode, key);
+  }
+  return wire::makeFrame(static_cast<char>(wire::kExtendedCommand), lowFirst(what).append(payload),
+                         mode, key);
 }
 
-// The number of bytes sent, or -1.
-int ToviTraffic::sendPacket(std::uint64_t socket, short what, char* data, int len) {
-  int size = 0;
-  const std::unique_ptr<char[]> frame(makeSendPacket(what, data, len, &size));
-  if (frame == nullptr) return -1;
-  const std::string_view bytes(frame.get(), static_cast<std::size_t>(size));
-  return tovi::platform::sendAll(socket, bytes, mTimeout);
+bool Session::isEnciphered() const {
+  return mTraffic.mDesKey != nullptr || mTraffic.mAesKey != nullptr || mTraffic.mSm4Key != nullptr;
+}
+
+int Session::send(std::uint64_t socket, short what, std::string_view payload) {
+  return platform::sendAll(socket, frameOf(what, payload), mTraffic.mTimeout);
+}
+
+}  // namespace tovi::session
+
+// Kept: the interface names it.
+char* ToviTraffic::makeSendPacket(short what, char* data, int len, int* outLen) {
+  const std::string frame = tovi::session::Session(*this).frameOf(what, tovi::viewOf(data, len));
+  *outLen = static_cast<int>(frame.size());
+  return tovi::newArray(frame);
 }

@@ -4,12 +4,17 @@
 #include <iostream>
 #include <memory>
 
+#include "foundation/bytes.h"
+#include "session/session.h"
+
+void tovi::session::tellRelease() { std::cout << "SocketResult delete" << std::endl; }
+
 SocketResult::SocketResult(char* package, int length) : len(length), data(package) {}
 
 SocketResult::~SocketResult() {
   delete[] data;
   data = nullptr;
-  std::cout << "SocketResult delete" << std::endl;
+  tovi::session::tellRelease();
 }
 
 int SocketResult::getLen() const { return len; }
@@ -24,10 +29,7 @@ bool SocketResult::isSuccesed(int n) const { return len >= n && data != nullptr;
 
 char* SocketResult::toStrChar(int from) const {
   if (from < 0 || !isSuccesed(from)) return nullptr;
-  char* text = new char[static_cast<std::size_t>(len - from) + 1];
-  std::copy(data + from, data + len, text);
-  text[len - from] = '\0';
-  return text;
+  return tovi::newArray(tovi::viewOf(data + from, len - from));
 }
 
 std::string SocketResult::toStr(int from) const {
@@ -36,13 +38,9 @@ std::string SocketResult::toStr(int from) const {
 }
 
 std::string SocketResult::toStrT(int from) const {
-  std::string text;
-  for (int i = std::max(from, 0); data != nullptr && i < len; ++i) {
-    const int byte = static_cast<unsigned char>(data[i]);
-    if (byte < 0x10) text += '0';
-    text += DecIntToHexStr(byte);
-  }
-  return text;
+  const int first = std::max(from, 0);
+  return data == nullptr || first >= len ? ""
+                                         : tovi::hexText(tovi::viewOf(data + first, len - first));
 }
 
 std::string SocketResult::DecIntToHexStr(int n) const {

@@ -1,104 +1,149 @@
-// Files to the controller: the name, numbered chunks, the confirmation of the end.
-#include <tovisdk/codec.h>
+// Files to the controller and their names: a file's name, numbered chunks, the confirmation of the
+// end.
+#include "transfer/files.h"
 
-#include <cstring>
 #include <string>
-#include <vector>
+#include <utility>
 
+#include "foundation/bytes.h"
 #include "foundation/log.h"
+#include "json/json_object.h"
+#include "session/operation.h"
 #include "transfer/local_files.h"
 #include "transfer/transfer.h"
 
-using tovi::device::bytes;
-using tovi::transfer::FileReader;
-using tovi::transfer::kMaxText;
-using tovi::transfer::kNumberSize;
-using tovi::transfer::Step;
-using tovi::transfer::Transfer;
-using tovi::wire::command;
+using namespace tovi;
+using namespace tovi::session;
+using namespace tovi::transfer;
 
 namespace {
 
 // An enciphered chunk must fit a frame together with its number and a block of padding.
 constexpr int kPlainChunk = 65535;
 constexpr int kCipheredChunk = 65517;
+constexpr std::size_t kNumberSize = 2;
 
-constexpr Step kName{command("sendFileName"), 1, ToviTraffic::FILE_NAME_NO_REPLY,
+constexpr Step kName{"sendFileName", 1, ToviTraffic::FILE_NAME_NO_REPLY,
                      ToviTraffic::FILE_NAME_REJECTED};
-constexpr Step kChunk{command("sendFileContent"), 3, ToviTraffic::CONTENT_NO_REPLY,
+constexpr Step kChunk{"sendFileContent", 3, ToviTraffic::CONTENT_NO_REPLY,
                       ToviTraffic::CONTENT_REJECTED};
-constexpr Step kEnd{command("recvFileOverRsp"), 1, ToviTraffic::FILE_END_NO_REPLY,
+constexpr Step kEnd{"recvFileOverRsp", 1, ToviTraffic::FILE_END_NO_REPLY,
                     ToviTraffic::FILE_END_REJECTED};
 
+constexpr unsigned kLastCleanUp = 3;
+constexpr int kSubstituteCleanUp = 1;
+
+// How far a file got: the bytes of the last chunk, and the number that the next would carry.
+struct Sent {
+  int lastLen = 0;
+  int nextNumber = 1;
+};
+
+// A controller knows the last chunk by its not being full. A read that fills the chunk has not met
+// the file's end yet, so a file of whole chunks is followed by one that holds its number alone.
+int sendChunks(Session session, std::uint64_t socket, const char* path, int chunkSize, Sent& sent,
+               const ToviTraffic::Progress& progress) {
+  FileReader file(path);
+  std::string payload(kNumberSize + static_cast<std::size_t>(chunkSize), '\0');
+  do {
+    sent.lastLen = static_cast<int>(file.read(std::span(payload).subspan(kNumberSize)));
+    if (sent.lastLen < 0) {
+      log::error("ToviTraffic::sendFileContent cannot read %s", path);
+      return session.end(ToviOutcome::LocalFile, ToviTraffic::LOCAL_FILE_ERROR);
+    }
+    // 16 bits that wrap: only files of 4 GiB and more get there.
+    payload.replace(0, kNumberSize, lowFirst(sent.nextNumber++));
+    const std::size_t size = kNumberSize + static_cast<std::size_t>(sent.lastLen);
+    const int result = sendStep(session, socket, kChunk, std::string_view(payload).substr(0, size));
+    if (result != ToviTraffic::SUCCESS) return result;
+    if (progress && !progress(file.position(), file.size())) {
+      log::info("ToviTraffic::sendFileContent stopped by the host");
+      return ToviTraffic::STOPPED_BY_HOST;
+    }
+  } while (!file.atEnd());
+  return ToviTraffic::SUCCESS;
+}
+
+// The texts of a JSON array; what else stands in it is passed over.
+std::list<std::string> askNames(Operation operation, const std::string& payload = {}) {
+  std::list<std::string> names;
+  const CJsonObject array(operation.askText(payload));
+  if (!array.isArray() && operation.outcome() == ToviOutcome::Done) {
+    operation.end(ToviOutcome::BadReply);
+  }
+  for (std::uint32_t i = 0; i < array.arraySize(); ++i) {
+    std::string name;
+    if (array.getArrayText(i, name)) names.push_back(std::move(name));
+  }
+  return names;
+}
+
 }  // namespace
+
+namespace tovi::transfer {
+
+int sendName(Session session, std::uint64_t socket, std::string_view name) {
+  return sendStep(session, socket, kName, bytes({0xFF, 0xFF}).append(name));
+}
+
+int sendWhole(Session session, std::uint64_t socket, std::string_view content) {
+  return sendStep(session, socket, kChunk, lowFirst(1).append(content));
+}
+
+int awaitEnd(Session session, std::uint64_t socket) { return awaitStep(session, socket, kEnd); }
+
+}  // namespace tovi::transfer
 
 int ToviTraffic::sendFile(const char* path, const char* name) { return sendFile(path, name, {}); }
 
 int ToviTraffic::sendFile(const char* path, const char* name, const Progress& progress) {
   Transfer transfer(*this, "sendFile");
   if (path == nullptr || name == nullptr) return transfer.refuse("path or name is null");
-  const std::size_t nameLen = std::strlen(name);
-  if (nameLen > kMaxText) return transfer.refuse("the name is too long");
-  if (!transfer.connect()) return tovi::transfer::kNoConnection;
+  const std::string_view fileName = name;
+  if (fileName.size() > kMaxText) return transfer.refuse("the name is too long");
+  if (!transfer.connect()) return kNoConnection;
 
-  int result = sendFileName(transfer.socket(), name, static_cast<int>(nameLen));
+  Session session = transfer.session();
+  int result = sendName(session, transfer.socket(), fileName);
   if (result != SUCCESS) return result;
-  const bool enciphered = mDesKey != nullptr || mAesKey != nullptr || mSm4Key != nullptr;
-  const int chunkSize = enciphered ? kCipheredChunk : kPlainChunk;
-  int lastLen = 0;
-  int nextNumber = 0;
-  result = sendFileContent(transfer.socket(), path, chunkSize, &lastLen, &nextNumber, progress);
-  if (result != SUCCESS) return result;
-  // A controller knows the last chunk by its not being full. Reading sees to that by itself, as a
-  // read that fills the chunk has not met the end yet; here it is made sure of.
-  if (lastLen == chunkSize) {
-    char payload[kNumberSize];
-    result = sendChunk(transfer.socket(), payload, 0, nextNumber);
-    if (result != SUCCESS) return result;
-  }
-  return recvFileOverRsp(transfer.socket());
+  Sent sent;
+  result = sendChunks(session, transfer.socket(), path,
+                      session.isEnciphered() ? kCipheredChunk : kPlainChunk, sent, progress);
+  return result == SUCCESS ? awaitEnd(session, transfer.socket()) : result;
 }
 
+// Kept: the interface names it.
 int ToviTraffic::sendFileName(std::uint64_t socket, const char* name, int len) {
-  std::string payload = bytes({0xFF, 0xFF});
-  payload.append(name, static_cast<std::size_t>(len));
-  return transferStep(socket, kName, payload.data(), static_cast<int>(payload.size()));
+  return sendName(Session(*this), socket, viewOf(name, len));
 }
 
+// Kept: the interface names it.
 int ToviTraffic::sendFileContent(std::uint64_t socket, const char* path, int chunkSize,
-                                 int* lastLen, int* nextNumber, const Progress& progress) {
-  FileReader file(path);
-  std::vector<char> payload(static_cast<std::size_t>(kNumberSize + chunkSize));
-  const std::span<char> data = std::span(payload).subspan(kNumberSize);
-  *nextNumber = 1;
-  do {
-    *lastLen = static_cast<int>(file.read(data));
-    if (*lastLen < 0) {
-      tovi::log::error("ToviTraffic::sendFileContent cannot read %s", path);
-      mOutcome = ToviOutcome::LocalFile;
-      return LOCAL_FILE_ERROR;
-    }
-    const int result = sendChunk(socket, payload.data(), *lastLen, (*nextNumber)++);
-    if (result != SUCCESS) return result;
-    if (progress && !progress(file.position(), file.size())) {
-      tovi::log::info("ToviTraffic::sendFileContent stopped by the host");
-      return STOPPED_BY_HOST;
-    }
-  } while (!file.atEnd());
-  return SUCCESS;
+                                 int* lastLen, int* nextNumber) {
+  Sent sent;
+  const int result = sendChunks(Session(*this), socket, path, chunkSize, sent, {});
+  *lastLen = sent.lastLen;
+  *nextNumber = sent.nextNumber;
+  return result;
 }
 
+// Kept: the interface names it.
 int ToviTraffic::sendContent(std::uint64_t socket, const char* data, int len, int /*number*/) {
-  std::string payload(kNumberSize, '\0');
-  payload.append(data, static_cast<std::size_t>(len));
-  return sendChunk(socket, payload.data(), len, 1);
+  return sendWhole(Session(*this), socket, viewOf(data, len));
 }
 
-// Numbers and sends the `len` bytes that stand behind the number's room.
-int ToviTraffic::sendChunk(std::uint64_t socket, char* payload, int len, int number) {
-  // 16 bits that wrap: only files of 4 GiB and more get there.
-  shortToBytes(payload, 0, static_cast<short>(number));
-  return transferStep(socket, kChunk, payload, kNumberSize + len);
+// Kept: the interface names it.
+int ToviTraffic::recvFileOverRsp(std::uint64_t socket) { return awaitEnd(Session(*this), socket); }
+
+std::list<std::string> ToviTraffic::getAllMediaFileName() {
+  return askNames(Operation(*this, "getAllMediaFileName"));
 }
 
-int ToviTraffic::recvFileOverRsp(std::uint64_t socket) { return awaitStep(socket, kEnd, true); }
+std::list<std::string> ToviTraffic::getFileListName(char type) {
+  return askNames(Operation(*this, "getFileListName"), bytes({type}));
+}
+
+int ToviTraffic::cleanUpFiles(int type) {
+  const bool known = static_cast<unsigned>(type) <= kLastCleanUp;
+  return Operation(*this, "cleanUpFiles").set(bytes({known ? type : kSubstituteCleanUp}));
+}

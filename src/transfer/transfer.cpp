@@ -1,59 +1,39 @@
 #include "transfer/transfer.h"
 
-#include <memory>
-
 #include "foundation/log.h"
-#include "wire/frame.h"
 
 namespace tovi::transfer {
 
-Transfer::Transfer(ToviTraffic& traffic, const char* method) : mTraffic(traffic), mMethod(method) {
-  log::info("%s start", mMethod);
-}
-
-Transfer::~Transfer() { mTraffic.closeSocket(mSocket); }
-
 bool Transfer::connect() {
-  mSocket = mTraffic.getSocket();
-  if (mSocket != 0) return true;
-  log::error("%s socket error", mMethod);
-  mTraffic.mOutcome = ToviOutcome::NoConnection;
-  return false;
+  mConnection.emplace(session());
+  if (*mConnection) return true;
+  log::error("%s socket error", method());
+  return end(ToviOutcome::NoConnection, false);
 }
 
-int Transfer::refuse(const char* why) {
-  log::error("%s refused: %s", mMethod, why);
-  mTraffic.mOutcome = ToviOutcome::RefusedArgument;
-  return ToviTraffic::ARGUMENT_ERROR;
+int sendStep(session::Session session, std::uint64_t socket, const Step& step,
+             std::string_view payload) {
+  const bool sent = session.send(socket, wire::wideCode(step.row.command.request), payload) >= 0;
+  return awaitStep(session, socket, step, sent);
 }
 
-}  // namespace tovi::transfer
-
-int ToviTraffic::transferStep(std::uint64_t socket, const tovi::transfer::Step& step, char* data,
-                              int len) {
-  const bool sent = sendPacket(socket, tovi::wire::wideCode(step.command.request), data, len) >= 0;
-  return awaitStep(socket, step, sent);
-}
-
-int ToviTraffic::awaitStep(std::uint64_t socket, const tovi::transfer::Step& step, bool sent) {
-  const char* method = step.command.method.data();
-  int size = 0;
-  const std::unique_ptr<char[]> package(
-      recv(socket, tovi::wire::wideCode(step.command.reply), &size));
-  if (package == nullptr) {
-    tovi::log::error("ToviTraffic::%s no reply, result = %d", method, step.noReply);
-    mOutcome = sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed;
-    return step.noReply;
+int awaitStep(session::Session session, std::uint64_t socket, const Step& step, bool sent) {
+  const wire::Command& command = step.row.command;
+  const std::optional<std::string> reply =
+      session.receive(socket, wire::wideCode(command.reply), command.buffer);
+  if (!reply) {
+    log::error("ToviTraffic::%s no reply, result = %d", command.method.data(), step.noReply);
+    return session.end(sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed, step.noReply);
   }
   // A reply that is nothing but its command byte accepts; in a longer one, a status byte past the
   // end does not.
-  const char status = step.statusByte < size ? package.get()[step.statusByte] : '\0';
-  if (size > 1 && status != SUCCESS) {
-    tovi::log::error("ToviTraffic::%s rejected, status = %d, result = %d", method, status,
-                     step.rejected);
-    mOutcome = ToviOutcome::Rejected;
-    return step.rejected;
+  const char status = step.statusByte < reply->size() ? (*reply)[step.statusByte] : '\0';
+  if (reply->size() > 1 && status != ToviTraffic::SUCCESS) {
+    log::error("ToviTraffic::%s rejected, status = %d, result = %d", command.method.data(), status,
+               step.rejected);
+    return session.end(ToviOutcome::Rejected, step.rejected);
   }
-  mOutcome = ToviOutcome::Done;
-  return SUCCESS;
+  return session.end(ToviOutcome::Done, ToviTraffic::SUCCESS);
 }
+
+}  // namespace tovi::transfer

@@ -2,16 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string_view>
 
-#include <tovisdk/tovi_traffic.h>
-
-#include "device/operation.h"
+#include "session/call.h"
 #include "wire/command_table.h"
 
 namespace tovi::transfer {
-
-// What leads the data of a content chunk.
-inline constexpr int kNumberSize = 2;
 
 // The longest text that fits a frame in every mode behind two leading bytes.
 inline constexpr std::size_t kMaxText = wire::kMaxPayload - 2;
@@ -21,31 +18,29 @@ inline constexpr int kNoConnection = -1;
 
 // One message of a transfer, and the answer that it wants.
 struct Step {
-  const wire::Command& command;
-  int statusByte;  // the reply's byte that is 1 when the controller accepts
-  int noReply;     // the two results of failure
+  wire::Row row;
+  std::size_t statusByte;  // the reply's byte that is 1 when the controller accepts
+  int noReply;             // the two results of failure
   int rejected;
 };
 
-// One call of a public method, from its " start" line on. The connection that it took is closed
-// when it ends, however it ends.
-class Transfer {
+// Sends the message and awaits its answer: SUCCESS or the step's own code.
+int sendStep(session::Session session, std::uint64_t socket, const Step& step,
+             std::string_view payload);
+
+// Awaits the answer alone; `sent` tells whether the message before it went out.
+int awaitStep(session::Session session, std::uint64_t socket, const Step& step, bool sent = true);
+
+// A call of several steps. The connection that it took is closed when it ends, however it ends.
+class Transfer : public session::Call {
  public:
-  Transfer(ToviTraffic& traffic, const char* method);
-  ~Transfer();
-  Transfer(const Transfer&) = delete;
-  Transfer& operator=(const Transfer&) = delete;
+  using Call::Call;
 
   bool connect();
-  std::uint64_t socket() const { return mSocket; }
-
-  // Ends the call before anything is sent: says why in the log and gives -15.
-  int refuse(const char* why);
+  std::uint64_t socket() const { return mConnection->socket(); }
 
  private:
-  ToviTraffic& mTraffic;
-  const char* mMethod;
-  std::uint64_t mSocket = 0;
+  std::optional<session::Connection> mConnection;
 };
 
 }  // namespace tovi::transfer

@@ -1,9 +1,10 @@
-// The checksum of frames.
+#include "wire/checksum.h"
+
 #include <tovisdk/codec.h>
 
 #include <array>
-#include <cstdint>
 
+namespace tovi::wire {
 namespace {
 
 constexpr std::array<std::uint16_t, 256> makeCrcTable() {
@@ -24,10 +25,17 @@ constexpr std::array<std::uint16_t, 256> CRC_TABLE = makeCrcTable();
 
 }  // namespace
 
-short pubCalcCRC(char* data, int len) {
+std::uint16_t checksum(std::string_view bytes) {
   unsigned crc = 0xFFFF;
-  for (int i = 0; i < len; ++i) {
-    crc = crc >> 8 ^ CRC_TABLE[(crc ^ static_cast<unsigned char>(data[i])) & 0xFFu];
+  for (const char byte : bytes) {
+    crc = crc >> 8 ^ CRC_TABLE[(crc ^ static_cast<unsigned char>(byte)) & 0xFFu];
   }
-  return static_cast<short>(crc);
+  return static_cast<std::uint16_t>(crc);
+}
+
+}  // namespace tovi::wire
+
+short pubCalcCRC(char* data, int len) {
+  return static_cast<short>(
+      tovi::wire::checksum({data, len > 0 ? static_cast<std::size_t>(len) : 0}));
 }

@@ -1,18 +1,19 @@
-#include <tovisdk/codec.h>
+#include "wire/packet_builder.h"
+
 #include <tovisdk/packet.h>
 #include <tovisdk/protocal_parser.h>
 
 #include <climits>
 #include <optional>
 #include <span>
-#include <string>
-#include <string_view>
 
 #include "cipher/aes.h"
 #include "cipher/des.h"
 #include "cipher/md5.h"
 #include "cipher/sm4.h"
+#include "foundation/bytes.h"
 #include "foundation/log.h"
+#include "wire/checksum.h"
 #include "wire/frame.h"
 
 namespace tovi::wire {
@@ -64,16 +65,6 @@ std::string escape(std::string_view payload) {
   return escaped;
 }
 
-std::string frameOf(char what, std::string_view payload) {
-  std::string frame = {ProtocalParser::PACKET_START_FLAG, '\xFF', '\xFF', what};
-  frame += escape(payload);
-  frame += ProtocalParser::PACKET_END_FLAG;
-  const int checked = static_cast<int>(frame.size());
-  frame.resize(frame.size() + ProtocalParser::PACKET_CRC_SIZE);
-  shortToBytes(frame.data(), checked, pubCalcCRC(frame.data(), checked));
-  return frame;
-}
-
 // The payload as it goes into the frame, before escaping.
 std::string carriedPayload(char what, std::string_view payload, int mode, const char* key) {
   const bool enciphered = mode >= kDes && mode <= kSm4 && !payload.empty() && key != nullptr &&
@@ -88,21 +79,25 @@ std::string carriedPayload(char what, std::string_view payload, int mode, const 
 }
 
 }  // namespace
+
+std::string makeFrame(char what, std::string_view payload, int mode, const char* key) {
+  std::string frame = {ProtocalParser::PACKET_START_FLAG, '\xFF', '\xFF', what};
+  frame += escape(carriedPayload(what, payload, mode, key));
+  frame += ProtocalParser::PACKET_END_FLAG;
+  return frame += lowFirst(checksum(frame));
+}
+
 }  // namespace tovi::wire
 
 char* makeSendPacketEx(char what, char* data, int len, int mode, char* key, int* outLen) {
   // Escaping doubles a payload at most, and a frame's length is an int.
-  constexpr int kMaxPayload = INT_MAX / 2 - ProtocalParser::PACKET_MIN_SIZE;
+  constexpr int kMostBytes = INT_MAX / 2 - ProtocalParser::PACKET_MIN_SIZE;
   if (outLen != nullptr) *outLen = 0;
-  if (outLen == nullptr || (data == nullptr && len > 0) || len > kMaxPayload) {
+  if (outLen == nullptr || (data == nullptr && len > 0) || len > kMostBytes) {
     tovi::log::error("makeSendPacketEx argument refused, len = %d", len);
     return nullptr;
   }
-  const std::string_view payload(data, len > 0 ? static_cast<std::size_t>(len) : 0);
-  const std::string frame =
-      tovi::wire::frameOf(what, tovi::wire::carriedPayload(what, payload, mode, key));
-  char* result = new char[frame.size()];
-  frame.copy(result, frame.size());
+  const std::string frame = tovi::wire::makeFrame(what, tovi::viewOf(data, len), mode, key);
   *outLen = static_cast<int>(frame.size());
-  return result;
+  return tovi::newArray(frame);
 }

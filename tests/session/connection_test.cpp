@@ -5,7 +5,7 @@ namespace {
 
 using tovi::platform::StartUp;
 using tovi::test::FakePlatformTest;
-using Access = ToviTestAccess;
+namespace access = tovi::test::access;
 using Log = std::vector<std::string>;
 
 constexpr std::uint64_t kInvalid = ~std::uint64_t{0};
@@ -15,10 +15,10 @@ class Connection : public FakePlatformTest {};
 TEST_F(Connection, AClientConnectsAndClosesPerExchange) {
   {
     ToviTraffic traffic("192.168.1.10", 5005);
-    const std::uint64_t socket = Access::getSocket(traffic);
+    const std::uint64_t socket = access::getSocket(traffic);
     EXPECT_NE(socket, 0u);
-    Access::closeSocket(traffic, socket);
-    Access::closeSocket(traffic, 0);
+    access::closeSocket(traffic, socket);
+    access::closeSocket(traffic, 0);
   }
   EXPECT_EQ(fake().connections, std::vector<std::string>{"192.168.1.10:5005"});
   EXPECT_EQ(fake().socketTimeouts, std::vector<int>{20000});
@@ -54,7 +54,7 @@ TEST_F(Connection, EveryFailureIsLoggedAndCleanedUp) {
     fake().folders.insert("/host/bin/log/");
     c.script(fake());
     ToviTraffic traffic("127.0.0.1", 5005);
-    EXPECT_EQ(Access::getSocket(traffic), 0u);
+    EXPECT_EQ(access::getSocket(traffic), 0u);
     EXPECT_TRUE(fake().logged(c.record)) << c.record;
     EXPECT_EQ(fake().cleanUps, c.cleanUps) << c.record;
     EXPECT_EQ(fake().closed, c.closed) << c.record;
@@ -64,9 +64,9 @@ TEST_F(Connection, EveryFailureIsLoggedAndCleanedUp) {
 TEST_F(Connection, AServerKeepsItsSocketOpen) {
   {
     ToviTraffic traffic(std::uint64_t{42});
-    EXPECT_EQ(Access::getSocket(traffic), 42u);
-    Access::closeSocket(traffic, 42);
-    EXPECT_EQ(Access::getSocket(traffic), 42u);
+    EXPECT_EQ(access::getSocket(traffic), 42u);
+    access::closeSocket(traffic, 42);
+    EXPECT_EQ(access::getSocket(traffic), 42u);
   }
   EXPECT_EQ(fake().opened + fake().closed + fake().startUps + fake().cleanUps, 0);
   EXPECT_EQ(fake().log(),
@@ -79,20 +79,20 @@ TEST_F(Connection, AServerKeepsItsSocketOpen) {
 
 TEST_F(Connection, AnInvalidServerSocketIsNoConnection) {
   ToviTraffic traffic(kInvalid);
-  EXPECT_EQ(Access::getSocket(traffic), 0u);
+  EXPECT_EQ(access::getSocket(traffic), 0u);
   EXPECT_TRUE(fake().logged("error ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null"));
   EXPECT_EQ(traffic.setPower(true), -14);
 }
 
 TEST_F(Connection, AnAdoptedSocketMayBeChanged) {
   ToviTraffic traffic("127.0.0.1", 5005);
-  Access::setSocket(traffic, 9);
-  EXPECT_EQ(Access::getSocket(traffic), 9u);
+  access::setSocket(traffic, 9);
+  EXPECT_EQ(access::getSocket(traffic), 9u);
 }
 
 TEST_F(Connection, OnlyAddressesThatFitAreTaken) {
   ToviTraffic fits("1234567890123456789", 1);
-  Access::getSocket(fits);
+  access::getSocket(fits);
   EXPECT_EQ(fake().connections.back(), "1234567890123456789:1");
   EXPECT_FALSE(fake().logged("error ToviTraffic::ToviTraffic address refused"));
 
@@ -100,7 +100,7 @@ TEST_F(Connection, OnlyAddressesThatFitAreTaken) {
     fake().files.clear();
     ToviTraffic traffic(refused, 1);
     EXPECT_TRUE(fake().logged("error ToviTraffic::ToviTraffic address refused"));
-    Access::getSocket(traffic);
+    access::getSocket(traffic);
     EXPECT_EQ(fake().connections.back(), ":1");  // the empty text, which no real platform accepts
   }
 }
@@ -109,7 +109,7 @@ TEST_F(Connection, TheTimeoutHoldsForLaterConnections) {
   ToviTraffic traffic("127.0.0.1", 5005);
   for (const int ms : {5000, 0, -1}) {
     traffic.setTimeout(ms);
-    Access::getSocket(traffic);
+    access::getSocket(traffic);
   }
   EXPECT_EQ(fake().socketTimeouts, (std::vector<int>{5000, 0, 0}));
 }

@@ -7,7 +7,7 @@ namespace {
 using tovi::test::FakePlatformTest;
 using tovi::test::hex;
 using tovi::test::toHex;
-using Access = ToviTestAccess;
+namespace access = tovi::test::access;
 using Log = std::vector<std::string>;
 
 constexpr char kSet80[] = "AA FF FF 07 02 50 CC 38 4A";
@@ -134,7 +134,7 @@ TEST_F(ExchangeTest, ASettingWithoutAnswerReadsNothing) {
   EXPECT_TRUE(fake().receiveSizes.empty());
   EXPECT_TRUE(fake().logged("error ToviTraffic::normalSet don't need wiat rsp"));
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::Done);
-  EXPECT_EQ(Access::normalSet(mTraffic, 0x21, static_cast<char>(0xFF)), 1);
+  EXPECT_EQ(access::normalSet(mTraffic, 0x21, static_cast<char>(0xFF)), 1);
   expectNothingLeft();
 }
 
@@ -182,7 +182,7 @@ TEST_F(ExchangeTest, AnOrdinaryReplyHasThreeBuffersOfRoom) {
 TEST_F(ExchangeTest, AQueryHandsItsReplyOver) {
   fake().files.clear();
   fake().arrive(hex(kStatus80));
-  const auto result = Access::getData(mTraffic, 0x01, 0x02, 4096);
+  const auto result = access::getData(mTraffic, 0x01, 0x02, 4096);
   ASSERT_NE(result, nullptr);
   EXPECT_EQ(result->getLen(), 19);
   EXPECT_EQ(toHex(fake().sent.at(0)), "AA FF FF 01 CC 7D 80");
@@ -198,14 +198,14 @@ TEST_F(ExchangeTest, AQueryHandsItsReplyOver) {
 
 TEST_F(ExchangeTest, AQueryWithoutReplyIsNull) {
   fake().close();
-  EXPECT_EQ(Access::getData(mTraffic, 0x01, 0x02, 100), nullptr);
+  EXPECT_EQ(access::getData(mTraffic, 0x01, 0x02, 100), nullptr);
   EXPECT_TRUE(fake().logged("error ToviTraffic::getData socket recv error"));
   expectNothingLeft();
 }
 
 TEST_F(ExchangeTest, AQueryOnAHeldConnectionLeavesItOpen) {
   fake().arrive(hex("AA FF FF 24 56 31 2E 32 CC 67 F4"));
-  const auto result = Access::getDataOn(42, mTraffic, 0x23, 0x24);
+  const auto result = access::getDataOn(42, mTraffic, 0x23, 0x24);
   ASSERT_NE(result, nullptr);
   EXPECT_EQ(result->toStr(1), "V1.2");
   EXPECT_EQ(fake().opened + fake().closed, 0);
@@ -280,24 +280,24 @@ TEST_F(ExchangeTest, EncipheredExchangesMatchBytesComputedElsewhere) {
     EXPECT_TRUE(fake().logged(c.record)) << c.record;
 
     // The question whether traffic is enciphered, and its answer, are plain with every key.
-    EXPECT_EQ(toHex(Access::makeSendPacket(traffic, 0x010C, "")), "AA FF FF EF 0C 01 CC 5E C1");
+    EXPECT_EQ(toHex(access::makeSendPacket(traffic, 0x010C, "")), "AA FF FF EF 0C 01 CC 5E C1");
     fake().arrive(hex("AA FF FF EF 0C 01 01 CC 88 CD"));
-    const auto answer = Access::getData(traffic, 0x010C, 0x010C, 100);
+    const auto answer = access::getData(traffic, 0x010C, 0x010C, 100);
     ASSERT_NE(answer, nullptr);
     EXPECT_TRUE(answer->isSetSuccess());
     // So is the secret handshake.
-    EXPECT_EQ(toHex(Access::makeSendPacket(traffic, 0x70, "\x01")), "AA FF FF 70 01 CC 54 04");
+    EXPECT_EQ(toHex(access::makeSendPacket(traffic, 0x70, "\x01")), "AA FF FF 70 01 CC 54 04");
   }
 }
 
 TEST_F(ExchangeTest, ExtendedCodesLeadThePayload) {
-  EXPECT_EQ(toHex(Access::makeSendPacket(mTraffic, 0x0123, "\x01\x02")),
+  EXPECT_EQ(toHex(access::makeSendPacket(mTraffic, 0x0123, "\x01\x02")),
             "AA FF FF EF 23 01 01 02 CC 3A 5E");
-  EXPECT_EQ(toHex(Access::makeSendPacket(mTraffic, static_cast<short>(0xFFD5), "")),
+  EXPECT_EQ(toHex(access::makeSendPacket(mTraffic, static_cast<short>(0xFFD5), "")),
             "AA FF FF D5 CC 26 B8");
-  EXPECT_EQ(toHex(Access::makeSendPacket(mTraffic, 0x00CC, "\x01")), "AA FF FF CC 01 CC B5 2B");
+  EXPECT_EQ(toHex(access::makeSendPacket(mTraffic, 0x00CC, "\x01")), "AA FF FF CC 01 CC B5 2B");
   mTraffic.setDesKey("12345678");
-  EXPECT_EQ(toHex(Access::makeSendPacket(mTraffic, 0x0115, "")),
+  EXPECT_EQ(toHex(access::makeSendPacket(mTraffic, 0x0115, "")),
             "AA FF FF EF 3E D9 20 6D DE 08 39 54 CC 0C 8A");
 }
 

@@ -5,7 +5,7 @@
 namespace {
 
 using tovi::test::FakePlatformTest;
-using Access = ToviTestAccess;
+namespace access = tovi::test::access;
 using Log = std::vector<std::string>;
 
 class KeySlots : public FakePlatformTest {
@@ -15,7 +15,7 @@ class KeySlots : public FakePlatformTest {
   // The record that tells which cipher the next frame takes.
   std::string mode() {
     fake().files.clear();
-    Access::makeSendPacket(mTraffic, 0x05, "\x01");
+    access::makeSendPacket(mTraffic, 0x05, "\x01");
     return fake().log().at(0).substr(
         std::string("info ToviTraffic::makeSendPacket makeSendPacketEx ").size());
   }
@@ -103,10 +103,10 @@ TEST_F(KeySlots, SettersWriteTheirRecords) {
 
 TEST_F(KeySlots, AKeySetAfterTheFirstReplyLeavesTheParserAsItIs) {
   fake().arrive(tovi::test::hex("AA FF FF 24 56 31 2E 32 CC 67 F4"));
-  EXPECT_NE(Access::getDataOn(42, mTraffic, 0x23, 0x24), nullptr);
+  EXPECT_NE(access::getDataOn(42, mTraffic, 0x23, 0x24), nullptr);
   mTraffic.setDesKey("12345678");
   fake().arrive(tovi::test::hex("AA FF FF 24 56 31 2E 32 CC 67 F4"));
-  const auto result = Access::getDataOn(42, mTraffic, 0x23, 0x24);
+  const auto result = access::getDataOn(42, mTraffic, 0x23, 0x24);
   ASSERT_NE(result, nullptr);
   EXPECT_EQ(result->toStr(1), "V1.2");
 }

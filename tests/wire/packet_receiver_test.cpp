@@ -11,7 +11,7 @@ namespace {
 
 using tovi::test::hex;
 using tovi::test::toHex;
-using Access = ToviTestAccess;
+namespace access = tovi::test::access;
 
 constexpr char kStatus80[] =
     "AA FF FF 02 34 12 00 00 00 00 05 01 01 01 01 19 01 00 00 C8 02 50 CC E5 4C";
@@ -30,7 +30,7 @@ std::string feed(ProtocalParser& parser, const std::string& bytes, int what) {
   const std::unique_ptr<char[]> package(
       parser.recvProc(exact.get(), static_cast<int>(bytes.size()), static_cast<short>(what)));
   if (package == nullptr) return kNone;
-  return toHex({package.get(), static_cast<std::size_t>(Access::packageLen(parser))});
+  return toHex({package.get(), static_cast<std::size_t>(access::packageLen(parser))});
 }
 
 TEST(PacketReceiver, PlainFrames) {
@@ -69,7 +69,7 @@ TEST(PacketReceiver, PlainFrames) {
   for (const auto& c : cases) {
     ProtocalParser parser;
     EXPECT_EQ(feed(parser, hex(c.bytes), c.code), c.package) << c.what;
-    EXPECT_EQ(Access::needMore(parser), c.package == kNone) << c.what;
+    EXPECT_EQ(access::needMore(parser), c.package == kNone) << c.what;
   }
 }
 
@@ -79,13 +79,13 @@ TEST(PacketReceiver, AFrameMayBeSplitAnywhere) {
     ProtocalParser parser;
     if (cut < frame.size()) {
       EXPECT_EQ(feed(parser, frame.substr(0, cut), 0x02), kNone) << cut;
-      EXPECT_TRUE(Access::needMore(parser));
-      EXPECT_EQ(toHex(Access::pending(parser)), toHex(frame.substr(0, cut)));
+      EXPECT_TRUE(access::needMore(parser));
+      EXPECT_EQ(toHex(access::pending(parser)), toHex(frame.substr(0, cut)));
     }
     EXPECT_EQ(feed(parser, frame.substr(cut < frame.size() ? cut : 0), 0x02),
               "02 34 12 00 00 00 00 05 01 01 01 01 19 01 00 00 C8 02 50")
         << cut;
-    EXPECT_EQ(Access::pending(parser), "");
+    EXPECT_EQ(access::pending(parser), "");
   }
 }
 
@@ -93,9 +93,9 @@ TEST(PacketReceiver, BytesAfterAPackageAreKept) {
   ProtocalParser parser;
   EXPECT_EQ(feed(parser, hex(std::string(kAccepted08) + "AA FF FF 10 CC 34 0C AA FF"), 0x08),
             "08 01");
-  EXPECT_FALSE(Access::needMore(parser));
+  EXPECT_FALSE(access::needMore(parser));
   EXPECT_EQ(feed(parser, "", 0x10), "10");
-  EXPECT_EQ(toHex(Access::pending(parser)), "AA FF");
+  EXPECT_EQ(toHex(access::pending(parser)), "AA FF");
   EXPECT_EQ(feed(parser, hex("FF 08 01 CC 4E 42"), 0x08), "08 01");
 }
 
@@ -199,12 +199,12 @@ TEST(PacketReceiver, KeptBytesAreBounded) {
   const std::string endless(1 << 20, 'x');
   for (int i = 0; i < 12; ++i) {
     EXPECT_EQ(feed(parser, endless, 0x08), kNone);
-    EXPECT_LE(Access::pending(parser).size(), kBound);
+    EXPECT_LE(access::pending(parser).size(), kBound);
   }
   // A frame that is still open when the bound is met survives it.
   ProtocalParser open;
   feed(open, std::string(kBound, 'x') + hex("CC 00 00 AA FF FF 08"), 0x08);
-  EXPECT_EQ(toHex(Access::pending(open)), "AA FF FF 08");
+  EXPECT_EQ(toHex(access::pending(open)), "AA FF FF 08");
   EXPECT_EQ(feed(open, hex("01 CC 4E 42"), 0x08), "08 01");
 }
 
@@ -212,7 +212,7 @@ TEST(PacketReceiver, NoBytesAreNoPackage) {
   ProtocalParser parser;
   EXPECT_EQ(parser.recvProc(nullptr, 0, 0x08), nullptr);
   EXPECT_EQ(parser.recvProc(nullptr, 5, 0x08), nullptr);
-  EXPECT_TRUE(Access::needMore(parser));
+  EXPECT_TRUE(access::needMore(parser));
 }
 
 }  // namespace

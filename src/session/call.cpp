@@ -1,0 +1,16 @@
+#include "session/call.h"
+
+#include "foundation/log.h"
+
+namespace tovi::session {
+
+Call::Call(ToviTraffic& traffic, const char* method) : mSession(traffic), mMethod(method) {
+  log::info("%s start", mMethod);
+}
+
+int Call::refuse(const char* why) {
+  log::error("%s refused: %s", mMethod, why);
+  return end(ToviOutcome::RefusedArgument, ToviTraffic::ARGUMENT_ERROR);
+}
+
+}  // namespace tovi::session

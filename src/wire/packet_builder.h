@@ -1,0 +1,12 @@
+// Building frames.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tovi::wire {
+
+// The frame of makeSendPacketEx; key may be null.
+std::string makeFrame(char what, std::string_view payload, int mode, const char* key);
+
+}  // namespace tovi::wire

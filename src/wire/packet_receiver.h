@@ -1,0 +1,39 @@
+// A session's view of its parser: packages as texts.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <tovisdk/protocal_parser.h>
+
+namespace tovi::wire {
+
+class Receiver {
+ public:
+  explicit Receiver(ProtocalParser& parser) : mParser(parser) {}
+
+  // Adds bytes and looks for the reply to a command; see ProtocalParser::recvProc.
+  std::optional<std::string> receive(std::string_view bytes, short what);
+
+  // Checks, unescapes and deciphers one whole frame.
+  std::optional<std::string> open(std::string_view frame, short what);
+
+  // Whether bytes are kept that have not been searched yet.
+  bool hasUnread() const { return mParser.pendingLen > 0 && !mParser.needMore; }
+
+  void forget() { keep({}); }
+
+ private:
+  void beginFrame();
+  bool store(char byte);
+  std::string_view unfinished(std::string_view work, std::size_t start) const;
+  void keep(std::string_view bytes);
+  bool hasCipher() const;
+  bool openExtended(std::string& payload, char whatByte, short what) const;
+  std::string decipher(std::string& payload) const;
+
+  ProtocalParser& mParser;
+};
+
+}  // namespace tovi::wire
