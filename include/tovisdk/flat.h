@@ -37,7 +37,7 @@ extern "C" {
 /// Releases a report or a value and sets the host's pointer to null. Safe on null in both levels.
 TOVISDK_API void deleteArry(char** array);
 
-/// @name Screen and power
+/// @name Power and relays
 /// @{
 
 /// Status. Switches the screen on or off.
@@ -147,9 +147,6 @@ TOVISDK_API char* getDeviceNTPParam(const char* ip, unsigned short port);
 /// @name Display and video
 /// @{
 
-/// Report: Lines 宽:N, 高:N; pixels
-TOVISDK_API char* getDeviceSize(const char* ip, unsigned short port);
-
 /// Status. Four integers "RESULT WIDTH HEIGHT FIELDRATE"; the first is not sent.
 TOVISDK_API const char* setEdidInfo(const char* ip, unsigned short port, const char* info);
 
@@ -162,30 +159,30 @@ TOVISDK_API const char* setVideoControlInfo(const char* ip, unsigned short port,
 /// Report: 错误码:N 视频源:N
 TOVISDK_API char* getVideoControlInfo(const char* ip, unsigned short port);
 
+/// Report: Lines 宽:N, 高:N; pixels
+TOVISDK_API char* getDeviceSize(const char* ip, unsigned short port);
+
 /// Report: 错误码:N 坏点数:N
 TOVISDK_API char* startScreenPointDetect(const char* ip, unsigned short port);
 
 /// Report: What was found, as it came.
 TOVISDK_API char* getDetectErrorPointInfo(const char* ip, unsigned short port);
 
-/// Status. Fetches a picture of the screen into a local file.
-TOVISDK_API const char* getDeviceScreenshot(const char* ip, unsigned short port, const char* path);
-
 /// None.
 /// @{
-TOVISDK_API const char* setAntiAliasing(const char* ip, unsigned short port);
-TOVISDK_API const char* getAntiAliasing(const char* ip, unsigned short port);
 TOVISDK_API const char* setCustomResolution(const char* ip, unsigned short port);
 TOVISDK_API const char* getCurrentResolution(const char* ip, unsigned short port);
 TOVISDK_API const char* getSupportVideoSource(const char* ip, unsigned short port);
-TOVISDK_API const char* setFont(const char* ip, unsigned short port);
-TOVISDK_API const char* getFontList(const char* ip, unsigned short port);
+TOVISDK_API const char* setAntiAliasing(const char* ip, unsigned short port);
+TOVISDK_API const char* getAntiAliasing(const char* ip, unsigned short port);
 TOVISDK_API const char* setSyncPlay(const char* ip, unsigned short port);
 TOVISDK_API const char* getSyncPlay(const char* ip, unsigned short port);
+TOVISDK_API const char* setFont(const char* ip, unsigned short port);
+TOVISDK_API const char* getFontList(const char* ip, unsigned short port);
 /// @}
 /// @}
 
-/// @name Playing
+/// @name What is playing
 /// @{
 
 /// Report: Lines play id:N, play content:S; the item on screen
@@ -193,63 +190,10 @@ TOVISDK_API char* getNowPlayContent(const char* ip, unsigned short port);
 
 /// Report: Lines play id:N, play content:S; the whole program
 TOVISDK_API char* getNowPlayAllContent(const char* ip, unsigned short port);
-
-/// Status. Plays a playlist.
-TOVISDK_API const char* playListById(const char* ip, unsigned short port, int id);
-
-/// Status. Deletes a playlist.
-TOVISDK_API const char* deletePlaylistById(const char* ip, unsigned short port, int id);
-
-/// Report: [1,2,3], with the numbers of the playlists
-TOVISDK_API char* getAllPlaylistId(const char* ip, unsigned short port);
-
-/// Status. Uploads a playlist and plays it.
-TOVISDK_API const char* sendPlayList(const char* ip, unsigned short port, int number,
-                                     const char* text);
-/// @}
-
-/// @name Files and updates
-/// @{
-
-/// Status. Sends a local file under a name.
-TOVISDK_API const char* sendFile(const char* ip, unsigned short port, const char* path,
-                                 const char* name);
-
-/// Report: Every name followed by a comma
-TOVISDK_API char* getFileListName(const char* ip, unsigned short port, char type);
-
-/// Status. Cleans up storage: 0 to 3; any other value is sent as 1.
-TOVISDK_API const char* cleanUpFiles(const char* ip, unsigned short port, int type);
-
-/// Status. Updates from a path on the controller.
-TOVISDK_API const char* sendLocalUpdate(const char* ip, unsigned short port, int type,
-                                        const char* text);
-
-/// Status. Removes an update.
-TOVISDK_API const char* removeLocalUpdate(const char* ip, unsigned short port, int type);
-
-/// Status. Tells where to download from, 1 to 1024 bytes.
-TOVISDK_API const char* sendFtpDownloadaddress(const char* ip, unsigned short port,
-                                               const char* address);
-
-/// Status. Names the update, 1 to 1024 bytes.
-TOVISDK_API const char* updateFileName(const char* ip, unsigned short port, const char* name);
-
-/// Status. Removes an application, 1 to 256 bytes.
-TOVISDK_API const char* removeAppPageName(const char* ip, unsigned short port, const char* package);
-
-/// None.
-/// @{
-TOVISDK_API const char* downloadFiles(const char* ip, unsigned short port);
-TOVISDK_API const char* getAllMediaFileName(const char* ip, unsigned short port);
-/// @}
 /// @}
 
 /// @name Identity and status
 /// @{
-
-/// Report: Lines 时间:N年N月N日N 时N分N秒, 亮度模式:N, 环境亮度:N, 屏幕亮度:N, 温度:N
-TOVISDK_API char* getDeviceType(const char* ip, unsigned short port);
 
 /// Always. Names the controller. The bytes are sent as they are; controllers expect UTF-8.
 TOVISDK_API const char* setDeviceName(const char* ip, unsigned short port, const char* name);
@@ -266,11 +210,14 @@ TOVISDK_API char* getSn(const char* ip, unsigned short port);
 /// Report: The MAC address, as in 0:1a:b:0:ff:5.
 TOVISDK_API char* getMac(const char* ip, unsigned short port);
 
-/// Report: 错误码:N CPU使用率:S 硬盘总大小:S 硬盘剩余大小:S
-TOVISDK_API char* getCpuAndMemoryInfo(const char* ip, unsigned short port);
+/// Report: Lines 时间:N年N月N日N 时N分N秒, 亮度模式:N, 环境亮度:N, 屏幕亮度:N, 温度:N
+TOVISDK_API char* getDeviceType(const char* ip, unsigned short port);
 
 /// Report: Lines 总内存大小:N, 剩余内存大小:N
 TOVISDK_API char* getDeviceMemorySize(const char* ip, unsigned short port);
+
+/// Report: 错误码:N CPU使用率:S 硬盘总大小:S 硬盘剩余大小:S
+TOVISDK_API char* getCpuAndMemoryInfo(const char* ip, unsigned short port);
 
 /// Value: The text as it came, without conversion.
 TOVISDK_API char* getSurveil(const char* ip, unsigned short port);
@@ -302,14 +249,6 @@ TOVISDK_API char* getVirtualConnection(const char* ip, unsigned short port);
 
 /// None.
 /// @{
-TOVISDK_API const char* connectWifi(const char* ip, unsigned short port);
-TOVISDK_API const char* setWifiState(const char* ip, unsigned short port);
-TOVISDK_API const char* getWifiState(const char* ip, unsigned short port);
-TOVISDK_API const char* getWifiList(const char* ip, unsigned short port);
-TOVISDK_API const char* setWifiApState(const char* ip, unsigned short port);
-TOVISDK_API const char* getWifiApState(const char* ip, unsigned short port);
-TOVISDK_API const char* setWifiApConfig(const char* ip, unsigned short port);
-TOVISDK_API const char* getWifiApConfig(const char* ip, unsigned short port);
 TOVISDK_API const char* setPingIp(const char* ip, unsigned short port);
 TOVISDK_API const char* getPingIp(const char* ip, unsigned short port);
 TOVISDK_API const char* setServerIPLists(const char* ip, unsigned short port);
@@ -317,17 +256,31 @@ TOVISDK_API const char* getServerIPLists(const char* ip, unsigned short port);
 TOVISDK_API const char* addWhitelist(const char* ip, unsigned short port);
 TOVISDK_API const char* removeWhitelist(const char* ip, unsigned short port);
 TOVISDK_API const char* getWhitelist(const char* ip, unsigned short port);
+/// @}
+/// @}
+
+/// @name Wireless and mobile
+/// @{
+
+/// None.
+/// @{
+TOVISDK_API const char* setWifiState(const char* ip, unsigned short port);
+TOVISDK_API const char* getWifiState(const char* ip, unsigned short port);
+TOVISDK_API const char* getWifiList(const char* ip, unsigned short port);
+TOVISDK_API const char* connectWifi(const char* ip, unsigned short port);
+TOVISDK_API const char* setWifiApState(const char* ip, unsigned short port);
+TOVISDK_API const char* getWifiApState(const char* ip, unsigned short port);
+TOVISDK_API const char* setWifiApConfig(const char* ip, unsigned short port);
+TOVISDK_API const char* getWifiApConfig(const char* ip, unsigned short port);
 TOVISDK_API const char* getMobileInfo(const char* ip, unsigned short port);
 TOVISDK_API const char* getSimInfo(const char* ip, unsigned short port);
 TOVISDK_API const char* switchToSoftsim(const char* ip, unsigned short port);
 TOVISDK_API const char* setLoraInfo(const char* ip, unsigned short port);
 TOVISDK_API const char* getLoraInfo(const char* ip, unsigned short port);
-TOVISDK_API const char* setSensorInfo(const char* ip, unsigned short port);
-TOVISDK_API const char* getSensorInfo(const char* ip, unsigned short port);
 /// @}
 /// @}
 
-/// @name Maintenance and secure mode
+/// @name Maintenance
 /// @{
 
 /// Status. Restarts the controller.
@@ -343,6 +296,22 @@ TOVISDK_API const char* setCloseScreenTemperature(const char* ip, unsigned short
 /// Value: 高温关屏温度:N, without a line end
 TOVISDK_API char* getCloseScreenTemperature(const char* ip, unsigned short port);
 
+/// Status. Removes an application, 1 to 256 bytes.
+TOVISDK_API const char* removeAppPageName(const char* ip, unsigned short port, const char* package);
+
+/// None.
+/// @{
+TOVISDK_API const char* setSSHEnabled(const char* ip, unsigned short port);
+TOVISDK_API const char* getSSHEnabled(const char* ip, unsigned short port);
+TOVISDK_API const char* getLogZipPath(const char* ip, unsigned short port);
+TOVISDK_API const char* setSensorInfo(const char* ip, unsigned short port);
+TOVISDK_API const char* getSensorInfo(const char* ip, unsigned short port);
+/// @}
+/// @}
+
+/// @name Secure mode
+/// @{
+
 /// Always. Sets the controller's key.
 TOVISDK_API const char* setDeviceKey(const char* ip, unsigned short port, const char* key);
 
@@ -350,6 +319,81 @@ TOVISDK_API const char* setDeviceKey(const char* ip, unsigned short port, const 
 /// enable 1 or true, keys of 8 characters; missing tokens are empty.
 TOVISDK_API const char* setDeviceSecretParam(const char* ip, unsigned short port, const char* param,
                                              bool includeSecondKey);
+
+/// None.
+/// @{
+TOVISDK_API const char* getIsSecret(const char* ip, unsigned short port);
+/// @}
+/// @}
+
+/// @name Files
+/// @{
+
+/// Status. Sends a local file under a name.
+TOVISDK_API const char* sendFile(const char* ip, unsigned short port, const char* path,
+                                 const char* name);
+
+/// Report: Every name followed by a comma
+TOVISDK_API char* getFileListName(const char* ip, unsigned short port, char type);
+
+/// Status. Cleans up storage: 0 to 3; any other value is sent as 1.
+TOVISDK_API const char* cleanUpFiles(const char* ip, unsigned short port, int type);
+
+/// None.
+/// @{
+TOVISDK_API const char* getAllMediaFileName(const char* ip, unsigned short port);
+/// @}
+/// @}
+
+/// @name Playlists
+/// @{
+
+/// Status. Uploads a playlist and plays it.
+TOVISDK_API const char* sendPlayList(const char* ip, unsigned short port, int number,
+                                     const char* text);
+
+/// Status. Plays a playlist.
+TOVISDK_API const char* playListById(const char* ip, unsigned short port, int id);
+
+/// Status. Deletes a playlist.
+TOVISDK_API const char* deletePlaylistById(const char* ip, unsigned short port, int id);
+
+/// Report: [1,2,3], with the numbers of the playlists
+TOVISDK_API char* getAllPlaylistId(const char* ip, unsigned short port);
+/// @}
+
+/// @name Updates
+/// @{
+
+/// Status. Updates from a path on the controller.
+TOVISDK_API const char* sendLocalUpdate(const char* ip, unsigned short port, int type,
+                                        const char* text);
+
+/// Status. Removes an update.
+TOVISDK_API const char* removeLocalUpdate(const char* ip, unsigned short port, int type);
+
+/// Status. Tells where to download from, 1 to 1024 bytes.
+TOVISDK_API const char* sendFtpDownloadaddress(const char* ip, unsigned short port,
+                                               const char* address);
+
+/// Status. Names the update, 1 to 1024 bytes.
+TOVISDK_API const char* updateFileName(const char* ip, unsigned short port, const char* name);
+
+/// None.
+/// @{
+TOVISDK_API const char* downloadFiles(const char* ip, unsigned short port);
+/// @}
+/// @}
+
+/// @name Screenshots
+/// @{
+
+/// Status. Fetches a picture of the screen into a local file.
+TOVISDK_API const char* getDeviceScreenshot(const char* ip, unsigned short port, const char* path);
+/// @}
+
+/// @name Session
+/// @{
 
 /// Always. Has no effect on later calls: a key lives in this call's own connection.
 TOVISDK_API const char* setDesKey(const char* ip, unsigned short port, const char* key);
@@ -362,14 +406,6 @@ TOVISDK_API const char* clearPassword(const char* ip, unsigned short port);
 
 /// Always. Has no effect on later calls: a time-out lives in this call's own connection.
 TOVISDK_API const char* setTimeout(const char* ip, unsigned short port, int ms);
-
-/// None.
-/// @{
-TOVISDK_API const char* getIsSecret(const char* ip, unsigned short port);
-TOVISDK_API const char* getLogZipPath(const char* ip, unsigned short port);
-TOVISDK_API const char* setSSHEnabled(const char* ip, unsigned short port);
-TOVISDK_API const char* getSSHEnabled(const char* ip, unsigned short port);
-/// @}
 /// @}
 
 #ifdef __cplusplus

@@ -1,21 +1,17 @@
 #include "flat/call.h"
 
+#include "foundation/bytes.h"
 #include "foundation/log.h"
 
 namespace tovi::flat {
 
-void logStart(const char* name) { log::info("%s start", name); }
+void logStart(const Caller& caller) { log::info("%s start", caller.function); }
 
-const char* notImplemented(const char* name, const char* ip, unsigned short port) {
+const char* notImplemented(const Caller& caller) {
   static constexpr char kText[] = "Interface not implemented";
-  return withSession<const char*>(name, ip, port, kText,
-                                  [](ToviTraffic&) -> const char* { return kText; });
+  return withSession<const char*>(caller, kText, [](ToviTraffic&) { return kText; });
 }
 
-char* newHostText(const std::string& text) {
-  char* result = new char[text.size() + 1]();
-  text.copy(result, text.size());
-  return result;
-}
+char* newHostText(const std::string& text) { return newArray(text); }
 
 }  // namespace tovi::flat

@@ -1,6 +1,7 @@
 #include "flat/report_text.h"
 
 #include "flat/labels.h"
+#include "foundation/log.h"
 #include "platform/text.h"
 
 namespace tovi::flat {
@@ -37,6 +38,13 @@ std::string playingText(int id, const char* content) {
 }  // namespace
 
 std::string gbk(const std::string& text) { return platform::utf8ToGbk(text).value_or(text); }
+
+std::string reportText(const std::string& text) { return gbk(text); }
+
+std::string reportText(char* text) {
+  const std::unique_ptr<char[]> owned(text);
+  return owned == nullptr ? "" : gbk(owned.get());
+}
 
 std::string reportText(const BrightnessInfo& info) {
   return line(label::kBrightnessMode, info.mode, label::kBrightnessOfEntry, info.brightness);
@@ -137,16 +145,18 @@ std::string reportText(const std::list<PlayByTimeParam>& entries) {
   return text;
 }
 
-std::string playlistNumbersText(const std::list<int>& numbers) {
+std::string reportText(const std::list<int>& playlists) {
   std::string text;
-  for (const int number : numbers) text += (text.empty() ? "" : ",") + part(number);
+  for (const int number : playlists) text += (text.empty() ? "" : ",") + part(number);
   return "[" + text + "],";
 }
 
-std::string fileNamesText(const std::list<std::string>& names) {
+std::string reportText(const std::list<std::string>& fileNames) {
   std::string text;
-  for (const std::string& name : names) text += gbk(name) + ",";
+  for (const std::string& name : fileNames) text += gbk(name) + ",";
   return text;
 }
+
+void warnOfNone(const char* function) { log::warning("%s list is null", function); }
 
 }  // namespace tovi::flat

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <list>
+#include <memory>
 #include <string>
 
 #include <tovisdk/device_type.h>
@@ -13,6 +14,10 @@ namespace tovi::flat {
 // anything else stays as it came.
 std::string gbk(const std::string& text);
 
+inline constexpr char kReportEnd[] = "interfaceEnd";
+
+std::string reportText(const std::string& text);
+std::string reportText(char* text);  // which it releases
 std::string reportText(const BrightnessInfo& info);
 std::string reportText(const BrightnessItem& curve);
 std::string reportText(const CpuAndMemoryInfo& info);
@@ -30,7 +35,23 @@ std::string reportText(const VirtualParam& param);
 std::string reportText(const std::list<BrightnessByTimeParam>& entries);
 std::string reportText(const std::list<DevicePowerByTimeParam>& entries);
 std::string reportText(const std::list<PlayByTimeParam>& entries);
-std::string playlistNumbersText(const std::list<int>& numbers);
-std::string fileNamesText(const std::list<std::string>& names);
+std::string reportText(const std::list<int>& playlists);
+std::string reportText(const std::list<std::string>& fileNames);
+
+// Of a record that the method may not have, and which this releases: null gives no line at all.
+template <class Record>
+std::string reportText(Record* record) {
+  const std::unique_ptr<Record> owned(record);
+  return owned == nullptr ? "" : reportText(*owned);
+}
+
+// Warns of a missing timetable in the name of a function.
+void warnOfNone(const char* function);
+
+template <class Entry>
+std::string timetableText(const char* function, std::list<Entry>* list) {
+  if (list == nullptr) warnOfNone(function);
+  return reportText(list);
+}
 
 }  // namespace tovi::flat

@@ -1,0 +1,64 @@
+// Display and video.
+#include <tovisdk/flat.h>
+
+#include "flat/call.h"
+#include "flat/grammar.h"
+
+using namespace tovi::flat;
+
+const char* setEdidInfo(const char* ip, unsigned short port, const char* info) {
+  return status({__func__, ip, port},
+                [&](ToviTraffic& session) { return session.setEdidInfo(parseEdidInfo(info)); });
+}
+
+char* getEdidInfo(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::getEdidInfo);
+}
+
+const char* setVideoControlInfo(const char* ip, unsigned short port, int videoSource) {
+  return status({__func__, ip, port}, &ToviTraffic::setVideoControlInfo, videoSource);
+}
+
+char* getVideoControlInfo(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::getVideoControlInfo);
+}
+
+char* getDeviceSize(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::getDeviceSize);
+}
+
+char* startScreenPointDetect(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::startScreenPointDetect);
+}
+
+char* getDetectErrorPointInfo(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::getDetectErrorPointInfo);
+}
+
+const char* setCustomResolution(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getCurrentResolution(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getSupportVideoSource(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* setAntiAliasing(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getAntiAliasing(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* setSyncPlay(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getSyncPlay(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* setFont(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getFontList(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}

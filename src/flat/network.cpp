@@ -1,0 +1,50 @@
+// The network.
+#include <tovisdk/flat.h>
+
+#include "flat/call.h"
+
+using namespace tovi::flat;
+
+const char* setDeviceNetBasicParam(const char* ip, unsigned short port, const char* newIp,
+                                   const char* netmask, const char* gateway, int devicePort,
+                                   const char* serverIp) {
+  return always({__func__, ip, port}, [&](ToviTraffic& session) {
+    session.setDeviceNetBasicParam(
+        {textOf(newIp), textOf(netmask), textOf(gateway), devicePort, textOf(serverIp)});
+  });
+}
+
+const char* resetDeviceIpToDefault(const char* ip, unsigned short port) {
+  return always({__func__, ip, port}, &ToviTraffic::resetDeviceIpToDefault);
+}
+
+const char* setVirtualConnection(const char* ip, unsigned short port, bool on, int interval,
+                                 int value) {
+  return status({__func__, ip, port}, &ToviTraffic::setVirtualConnection, on, interval, value);
+}
+
+char* getVirtualConnection(const char* ip, unsigned short port) {
+  return report({__func__, ip, port}, &ToviTraffic::getVirtualConnection);
+}
+
+const char* setPingIp(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getPingIp(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* setServerIPLists(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getServerIPLists(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* addWhitelist(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* removeWhitelist(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
+const char* getWhitelist(const char* ip, unsigned short port) {
+  return notImplemented({__func__, ip, port});
+}
