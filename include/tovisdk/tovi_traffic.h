@@ -662,7 +662,7 @@ class TOVISDK_API ToviTraffic {
   /// the type, the text.
   /// @return 1, -11, -12, -14, or -15 for null or a text of more than 65515 bytes
   int sendLocalUpdate(int type, const char* text);
-  /// The same for trial; payload: low byte of the type, FE, the text.
+  /// The same for trial. Command 0x88, reply 0x89; payload: low byte of the type, FE, the text.
   /// @return as above
   int sendTestLocalUpdate(int type, const char* text);
   /// Removes an update. Command 0x88, reply 0x89; payload 00, low byte of the type.

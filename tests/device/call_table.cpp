@@ -17,12 +17,15 @@ std::string show(char* text) {
   return copy;
 }
 
+std::string jsonHex(const std::string& text) { return text.empty() ? "" : " " + toHex(text); }
+
 namespace {
 
 std::vector<Call> allCalls() {
   std::vector<Call> calls;
-  for (const auto& table : {kSettingCalls, kMaintenanceCalls, kNetworkCalls, kDisplayCalls,
-                            kScheduleCalls, kTimeCalls, kTextCalls, kSecureModeCalls}) {
+  for (const auto& table : {kPowerCalls, kBrightnessCalls, kTimetablesCalls, kClockCalls,
+                            kDisplayCalls, kNowPlayingCalls, kIdentityCalls, kNetworkCalls,
+                            kWirelessCalls, kMaintenanceCalls, kSecureModeCalls}) {
     calls.insert(calls.end(), table.begin(), table.end());
   }
   return calls;

@@ -17,19 +17,26 @@ struct Call {
 };
 
 // The tables, by theme.
-extern const std::span<const Call> kSettingCalls;
-extern const std::span<const Call> kMaintenanceCalls;
-extern const std::span<const Call> kNetworkCalls;
+extern const std::span<const Call> kPowerCalls;
+extern const std::span<const Call> kBrightnessCalls;
+extern const std::span<const Call> kTimetablesCalls;
+extern const std::span<const Call> kClockCalls;
 extern const std::span<const Call> kDisplayCalls;
-extern const std::span<const Call> kScheduleCalls;
-extern const std::span<const Call> kTimeCalls;
-extern const std::span<const Call> kTextCalls;
+extern const std::span<const Call> kNowPlayingCalls;
+extern const std::span<const Call> kIdentityCalls;
+extern const std::span<const Call> kNetworkCalls;
+extern const std::span<const Call> kWirelessCalls;
+extern const std::span<const Call> kMaintenanceCalls;
 extern const std::span<const Call> kSecureModeCalls;
 
 // Results as texts that a row can name.
 inline std::string show(int number) { return std::to_string(number); }
 inline std::string show(bool flag) { return flag ? "true" : "false"; }
 std::string show(char* text);  // "null" for null; releases it
+
+// A text as hexadecimal bytes, a blank before each.
+std::string jsonHex(const std::string& text);
+
 template <class... Values>
 std::string show(const std::string& first, const Values&... values) {
   std::string text = first;

@@ -5,38 +5,23 @@ namespace {
 
 using T = ToviTraffic;
 
-std::string json(const std::string& text) {
-  std::string hexText;
-  for (const char byte : text) {
-    hexText += " ";
-    hexText += "0123456789ABCDEF"[static_cast<unsigned char>(byte) >> 4];
-    hexText += "0123456789ABCDEF"[byte & 0x0F];
-  }
-  return hexText;
-}
-
 std::string shown(ResolutionInfo i) { return show(i.result, i.resolution); }
 std::string shown(EdidInfo i) { return show(i.result, i.width, i.height, i.fieldRate); }
 std::string shown(VideoControlInfo i) { return show(i.result, i.videoSource); }
-std::string shown(CpuAndMemoryInfo i) {
-  return show(i.result, i.cpuUsage, i.diskTotal, i.diskFree);
-}
 std::string shown(DeviceSize s) { return show(s.width, s.height); }
-std::string shown(DeviceMemorySize s) { return show(s.total, s.free); }
 std::string shown(TextAttr a) { return show(int{a.first}, int{a.second}, int{a.third}); }
 std::string shown(ScreenPointDetect d) { return show(d.result, d.badPoints); }
+std::string flags(PreStoredScreenEnabled enabled) { return show(enabled.first, enabled.second); }
 
 const std::string kResolutionSet =
-    "A5" + json(R"({"displayMode":1,"width":1920,"height":-1,"refreshRate":60})");
-const std::string kEdidSet = "A4" + json(R"({"fieldRate":60,"width":800,"height":600})");
+    "A5" + jsonHex(R"({"displayMode":1,"width":1920,"height":-1,"refreshRate":60})");
+const std::string kEdidSet = "A4" + jsonHex(R"({"fieldRate":60,"width":800,"height":600})");
 const std::string kVideoSet =
-    "A3" + json(R"({"isScale":"false","offsetX":0,"offsetY":0,"videoMode":1,"videoSource":3})");
-const std::string kResolution = "A6 01" + json(R"({"value":"1920x1080"})") + " 00 41";
-const std::string kEdid = "A2 01" + json(R"({"width":800,"height":"600","fieldRate":59.9})");
-const std::string kEdidWithoutHeight = "A2 01" + json(R"({"fieldRate":60,"width":800})");
-const std::string kVideo = "A1 01" + json(R"({"videoSource":"2"})");
-const std::string kCpu =
-    "AF 01" + json(R"({"cpuUsage":"12%","diskTotal":4294967296,"diskFree":-1})");
+    "A3" + jsonHex(R"({"isScale":"false","offsetX":0,"offsetY":0,"videoMode":1,"videoSource":3})");
+const std::string kResolution = "A6 01" + jsonHex(R"({"value":"1920x1080"})") + " 00 41";
+const std::string kEdid = "A2 01" + jsonHex(R"({"width":800,"height":"600","fieldRate":59.9})");
+const std::string kEdidWithoutHeight = "A2 01" + jsonHex(R"({"fieldRate":60,"width":800})");
+const std::string kVideo = "A1 01" + jsonHex(R"({"videoSource":"2"})");
 
 const Call kCalls[] = {
     {"setCustomResolution", [](T& t) { return show(t.setCustomResolution(1920, -1, 60)); },
@@ -63,18 +48,12 @@ const Call kCalls[] = {
      "A3 01", "1"},
     {"getVideoControlInfo", [](T& t) { return shown(t.getVideoControlInfo()); }, "A1",
      kVideo.c_str(), "1 2"},
-    {"getCpuAndMemoryInfo", [](T& t) { return shown(t.getCpuAndMemoryInfo()); }, "AF", kCpu.c_str(),
-     "1 12% 4294967296 -1"},
-    {"getCpuAndMemoryInfo refused", [](T& t) { return shown(t.getCpuAndMemoryInfo()); }, "AF",
-     "AF 02 7B 7D", "0   "},
+    {"getSupportVideoSource", [](T& t) { return t.getSupportVideoSource(); }, "E7", "E7 01 61",
+     "a"},
     {"getDeviceSize", [](T& t) { return shown(t.getDeviceSize()); }, "82", "83 80 07 38 F4",
      "1920 62520"},
     {"getDeviceSize short", [](T& t) { return shown(t.getDeviceSize()); }, "82", "83 80 07 38",
      "-1 -1"},
-    {"getDeviceMemorySize", [](T& t) { return shown(t.getDeviceMemorySize()); }, "47",
-     "48 00 00 01 00 FF FF FF FF", "65536 -1"},
-    {"getDeviceMemorySize short", [](T& t) { return shown(t.getDeviceMemorySize()); }, "47",
-     "48 00 00 01 00 FF FF FF", "-1 -1"},
     {"setAntiAliasing", [](T& t) { return t.setAntiAliasing(true, false, true), std::string("-"); },
      "E5 01 00 01", "", "-"},
     {"getAntiAliasing", [](T& t) { return shown(t.getAntiAliasing()); }, "E6", "E6 01 02 01",
@@ -84,14 +63,19 @@ const Call kCalls[] = {
     {"setSyncPlay", [](T& t) { return show(t.setSyncPlay(true)); }, "BC 01", "BC 01", "true"},
     {"getSyncPlay", [](T& t) { return show(t.getSyncPlay()); }, "BD", "BD 01", "true"},
     {"getSyncPlay refused", [](T& t) { return show(t.getSyncPlay()); }, "BD", "BD 00", "false"},
+    {"setPreStoredScreenEnabled", [](T& t) { return show(t.setPreStoredScreenEnabled(true)); },
+     "EF 12 01 01 01", "EF 12 01 00 01", "1"},
+    {"setPreStoredScreenEnabled short",
+     [](T& t) { return show(t.setPreStoredScreenEnabled(false)); }, "EF 12 01 01 00", "EF 12 01 00",
+     "-1"},
+    {"getPreStoredScreenEnabled", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
+     "EF 12 01 00", "EF 12 01 00 01 FF", "1 -1"},
+    {"getPreStoredScreenEnabled short", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
+     "EF 12 01 00", "EF 12 01 00 01", "-1 0"},
     {"setFont", [](T& t) { return show(t.setFont("f")); }, "D2 66", "D2 01", "1"},
     {"setFont too long", [](T& t) { return show(t.setFont(std::string(1025, 'x'))); }, "", "",
      "-15"},
-    {"setAdvanceTiming", [](T& t) { return show(t.setAdvanceTiming("t")); }, "DC 74", "DC 01", "1"},
-    {"setAdvanceTiming too long",
-     [](T& t) { return show(t.setAdvanceTiming(std::string(4097, 'x'))); }, "", "", "-15"},
-    {"removeAdvanceTiming", [](T& t) { return show(t.removeAdvanceTiming()); }, "DE 01", "DE 01",
-     "1"},
+    {"getFontList", [](T& t) { return t.getFontList(); }, "D1", "D1 01 61", "a"},
     {"startScreenPointDetect", [](T& t) { return shown(t.startScreenPointDetect()); }, "0B",
      "0C 01 04 03 02 01", "1 16909060"},
     {"startScreenPointDetect refused", [](T& t) { return shown(t.startScreenPointDetect()); }, "0B",

@@ -11,7 +11,7 @@ std::string info(BackUpsInfo* info) {
   return text;
 }
 
-std::string flags(PreStoredScreenEnabled enabled) { return show(enabled.first, enabled.second); }
+const std::string k4096(4096, 'x');
 
 const Call kCalls[] = {
     {"restartDevice", [](T& t) { return show(t.restartDevice()); }, "0D", "0E 01", "1"},
@@ -57,15 +57,16 @@ const Call kCalls[] = {
      "EF 10 01 01 01", "-1"},
     {"getSSHEnabled short", [](T& t) { return show(t.getSSHEnabled()); }, "EF 10 01 00",
      "EF 10 01 00", "-1"},
-    {"setPreStoredScreenEnabled", [](T& t) { return show(t.setPreStoredScreenEnabled(true)); },
-     "EF 12 01 01 01", "EF 12 01 00 01", "1"},
-    {"setPreStoredScreenEnabled short",
-     [](T& t) { return show(t.setPreStoredScreenEnabled(false)); }, "EF 12 01 01 00", "EF 12 01 00",
-     "-1"},
-    {"getPreStoredScreenEnabled", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
-     "EF 12 01 00", "EF 12 01 00 01 FF", "1 -1"},
-    {"getPreStoredScreenEnabled short", [](T& t) { return flags(t.getPreStoredScreenEnabled()); },
-     "EF 12 01 00", "EF 12 01 00 01", "-1 0"},
+    {"getLogZipPath", [](T& t) { return t.getLogZipPath(); }, "EF 0F 01", "EF 0F 01 01 61", "a"},
+    {"setSensorInfo", [](T& t) { return show(t.setSensorInfo("")); }, "C8", "C8 01", "1"},
+    {"setSensorInfo too long", [](T& t) { return show(t.setSensorInfo(k4096 + "x")); }, "", "",
+     "-15"},
+    {"getSensorInfo", [](T& t) { return t.getSensorInfo(); }, "C7", "C7 01 61", "a"},
+    {"removeAppPageName", [](T& t) { return show(t.removeAppPageName("a.b")); }, "9F 61 2E 62",
+     "9F 01", "1"},
+    {"removeAppPageName empty", [](T& t) { return show(t.removeAppPageName("")); }, "", "", "-15"},
+    {"removeAppPageName too long",
+     [](T& t) { return show(t.removeAppPageName(std::string(257, 'x'))); }, "", "", "-15"},
 };
 
 }  // namespace

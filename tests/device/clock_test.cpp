@@ -70,6 +70,6 @@ const Call kCalls[] = {
 
 }  // namespace
 
-const std::span<const Call> kTimeCalls = kCalls;
+const std::span<const Call> kClockCalls = kCalls;
 
 }  // namespace tovi::test
