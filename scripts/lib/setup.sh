@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 TOOL_PACKAGES=(g++ cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
-TEST_PACKAGES=(libgtest-dev locales mono-mcs libmono-i18n-cjk4.0-cil)
+TEST_PACKAGES=(libgtest-dev locales python3 mono-mcs libmono-i18n-cjk4.0-cil)
 CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config dpkg-dev file)
 
 install_missing() {
