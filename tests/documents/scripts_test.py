@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What scripts/write-tables finds and writes."""
+"""What scripts/write-tables and scripts/check-comments find, and what they leave alone."""
 
 import shutil
 import subprocess
@@ -100,6 +100,69 @@ class WriteTables(ScriptTest):
         status, shown = run(self.script)
         self.assertEqual(status, 1)
         self.assertIn("flat", shown)
+
+
+FULL = "/// @param level words up to the edge of what a line may hold, which is a hundred columns in all:"
+
+# Each with the lines that end early.
+COMMENTS = {
+    "a word left alone, the old continuation behind it": ([FULL, "/// an", "///        error"], [2]),
+    "the same without hanging indentation": ([FULL, "/// an", "/// error is logged"], [2]),
+    "a word that ends a sentence": ([FULL, "/// logged.", "///        Every later call fails"], [2]),
+    "inside a class": ([f"  {FULL[:98]}", "  /// an", "  ///     error"], [2]),
+    "an ordinary comment": (["// Some words that go", "// on although there was room."], [1]),
+    "hanging indentation of full lines": ([FULL[:-1] + ",", "///        going on there", "int f();"], []),
+    "the end of a paragraph": ([FULL, "/// is refused.", "/// Nothing is sent."], []),
+    "a little room": (["/// " + "words " * 13, "/// go on"], []),
+    "titles": (["/// @file", "/// What it is.", "///", "/// @name Keys", "/// A key is"], []),
+    "tags": (["/// It does", "/// @return what it did"], []),
+    "a list": (["/// It is", "/// - one", "/// - two", "/// 1. three"], []),
+    "a table": (["//   list  = entries", "//   entry = a number", "//   brief = 1 byte"], []),
+    "columns": (["// des  8 characters", "// aes  16 of them"], []),
+    "a word too long for the line": (["/// See", "/// " + "word" * 24], []),
+    "an example": (["/// ```", "/// call", "/// another", "/// ```"], []),
+    "what follows a colon": (["/// As in:", "///     call", "int f();"], []),
+}
+
+
+class CheckComments(ScriptTest):
+    script = ROOT / "scripts/check-comments"
+
+    def file(self, name, *lines):
+        path = self.folder / name
+        path.write_text("\n".join([*lines, ""]), encoding="utf-8")
+        return path
+
+    def test_lines_that_end_early(self):
+        for what, (lines, early) in COMMENTS.items():
+            with self.subTest(what):
+                path = self.file("any.h", "// SPDX-License-Identifier: MIT", *lines)
+                expected = [f"{path}:{line + 1}" for line in early]
+                status, shown = run(self.script, path)
+                self.assertEqual([line.split(": ")[0] for line in shown.splitlines()], expected)
+                self.assertEqual(status, 1 if early else 0)
+
+    def test_licences(self):
+        cpp, other = "// SPDX-License-Identifier: MIT", "# SPDX-License-Identifier: MIT"
+        files = {
+            "a.h": (["#pragma once"], [cpp, "#pragma once"]),
+            "a.cs": (["// A host."], [cpp, "// A host."]),
+            "CMakeLists.txt": (["project(a)"], [other, "project(a)"]),
+            "script": (["#!/bin/sh", "exit"], ["#!/bin/sh", other, "exit"]),
+            "a.csproj": (["<?xml?>", "<P/>"], ["<?xml?>", f"<!-- {cpp[3:]} -->", "<P/>"]),
+        }
+        for name, (before, after) in files.items():
+            with self.subTest(name):
+                path = self.file(name, *before)
+                self.assertEqual(run(self.script, path)[0], 1)
+                self.assertEqual(run(self.script, "--add", path)[0], 0)
+                self.assertEqual(path.read_text(encoding="utf-8").splitlines(), after)
+                self.assertEqual(run(self.script, "--add", path), (0, ""))
+
+        misplaced = self.file("b.h", "#pragma once", cpp)
+        self.assertEqual(run(self.script, "--add", misplaced)[0], 1)
+        self.assertEqual(misplaced.read_text(encoding="utf-8").splitlines(), ["#pragma once", cpp])
+        self.assertEqual(run(self.script, self.file("text.md", "Words"))[0], 0)
 
 
 if __name__ == "__main__":
