@@ -1,6 +1,7 @@
 #include "cli/progress.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tovi::cli {
 namespace {
@@ -27,7 +28,7 @@ std::string rateText(double bytesPerSecond) {
 std::string remainingText(double seconds) {
   constexpr double kMost = 99 * 3600;
   if (seconds > kMost) return "--:--";
-  const int whole = static_cast<int>(seconds + 0.5);
+  const int whole = static_cast<int>(std::lround(seconds));
   char text[40];
   if (whole < 3600) {
     std::snprintf(text, sizeof text, "%d:%02d", whole / 60, whole % 60);
