@@ -1,16 +1,14 @@
-// The kinds of argument that commands take.
+// The kinds of argument that commands take. What one theme alone takes stands in its file.
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <ctime>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "cli/method.h"
 #include "cli/reading.h"
-#include "cli/timetable.h"
 
 namespace tovi::cli {
 
@@ -41,47 +39,39 @@ struct Argument {
   }
 };
 
+// An argument of one word, which `read` makes a value of.
+template <class Read>
+auto argument(const std::string& name, const std::string& help, const Read& read) {
+  using Value = decltype(read(std::string()));
+  return Argument<Value>{
+      name, help, [read](const std::vector<std::string>& words) { return read(words.front()); }};
+}
+
 Argument<int> number(const std::string& name, const std::string& help, int least, int most);
 
-// "on" or "off".
-Argument<bool> onOff(const std::string& name, const std::string& help);
+Argument<bool> onOff(const std::string& name);
 
-constexpr std::size_t kMostTextBytes = 65515;  // what fits a frame in every mode
+// What a text may have that its command's row does not limit: some have two bytes before them.
+constexpr std::size_t kMostTextBytes = wire::kMaxPayload - 2;
 
-// Given in the terminal's encoding, handed over in UTF-8. Lengths are in bytes.
-Argument<std::string> text(const std::string& name, const std::string& help, std::size_t least = 0,
-                           std::size_t most = kMostTextBytes);
+// A text is given in the terminal's encoding, handed over in UTF-8. Lengths are in bytes.
+Argument<std::string> text(const std::string& name, const std::string& help, std::size_t least,
+                           std::size_t most);
 
-// A text without white space and commas.
-Argument<std::string> word(const std::string& name, const std::string& help);
+// A text as long as the command's row allows; the help says how long that is.
+struct FittingText {
+  std::string name;
+  std::string help;
+};
+inline FittingText text(const std::string& name, const std::string& help = "") {
+  return {name, help};
+}
 
-Argument<std::string> digits(const std::string& name, const std::string& help);
-
-Argument<std::string> ipv4(const std::string& name, const std::string& help);
-
-// A text that is a JSON array.
-Argument<std::string> jsonArray(const std::string& name, const std::string& help);
-
-// The path of a file that can be read.
-Argument<std::string> inputFile(const std::string& name, const std::string& help);
-
-// The path of a file that will be written.
-Argument<std::string> outputFile(const std::string& name, const std::string& help);
-
-// What stands in a file, or in standard input for "-".
-Argument<std::string> fileText(const std::string& name, const std::string& help);
-
-// A calendar time; without one, "now" was given.
-using Moment = std::optional<std::tm>;
-Argument<Moment> localMoment(const std::string& name, const std::string& help);
-Argument<Moment> utcMoment(const std::string& name, const std::string& help);
-
-// Entries "START END".
-Argument<std::vector<TimetableEntry>> timetable();
-// Entries "START END VALUE", the value 0 to 255.
-Argument<std::vector<TimetableEntry>> timetable(const std::string& value, const std::string& help);
-
-// Pairs "AMBIENT SCREEN".
-Argument<std::vector<CurvePoint>> curve();
+// An argument as it stands in the command of a method.
+Argument<std::string> argumentOf(const Method& method, const FittingText& text);
+template <class Value>
+const Argument<Value>& argumentOf(const Method&, const Argument<Value>& argument) {
+  return argument;
+}
 
 }  // namespace tovi::cli

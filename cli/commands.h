@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "cli/argument.h"
+#include "cli/method.h"
 #include "cli/output.h"
 #include "cli/records.h"
 
@@ -51,11 +53,31 @@ auto sets(Returned (ToviTraffic::*method)(Parameters...)) {
   };
 }
 
+// How what a method returns is shown. Behind a pointer there is a record of the caller's, or none.
+template <class Returned>
+using Shown = Json (*)(const std::remove_pointer_t<Returned>&);
+
 // A query: what the method returns is the result.
 template <class Returned, class... Parameters>
-auto asks(Returned (ToviTraffic::*method)(Parameters...)) {
-  return [method](Call& call, const auto&... values) {
-    return ofAnswer(call.traffic, shown((call.traffic.*method)(passed<Parameters>(values)...)));
+auto asks(Returned (ToviTraffic::*method)(Parameters...), Shown<Returned> show = shown) {
+  return [method, show](Call& call, const auto&... values) {
+    const Returned returned = (call.traffic.*method)(passed<Parameters>(values)...);
+    if constexpr (std::is_pointer_v<Returned>) {
+      const std::unique_ptr<std::remove_pointer_t<Returned>> record(returned);
+      return ofAnswer(call.traffic, record == nullptr ? Json() : show(*record));
+    } else {
+      return ofAnswer(call.traffic, show(returned));
+    }
+  };
+}
+
+// A query for a text that the library hands over as an array.
+inline auto asks(char* (ToviTraffic::*method)()) {
+  return [method](Call& call) {
+    char* text = (call.traffic.*method)();
+    const Json value = text == nullptr ? Json() : Json(text);
+    deleteArry(&text);
+    return ofAnswer(call.traffic, value);
   };
 }
 
@@ -73,13 +95,15 @@ class Commands {
   // Later commands stand under this heading in the help.
   void group(const std::string& title) { mGroup = title; }
 
-  template <class Operation, class... Values>
-  void add(const std::string& name, const std::string& help, Operation operation,
-           const Argument<Values>&... arguments) {
+  // The command of a method: `operation` is called with the values of the arguments.
+  template <class Operation, class... Arguments>
+  void add(const Method& method, const std::string& help, Operation operation,
+           const Arguments&... arguments) {
+    const std::string name = method.command();
     for (CLI::App* parent : mParents) {
       CLI::App* command = parent->add_subcommand(name, help)->group(mGroup);
       // In braces, as those are worked through from left to right.
-      const std::tuple values{arguments.declare(*command)...};
+      const std::tuple values{argumentOf(method, arguments).declare(*command)...};
       command->callback([this, name, operation, values] {
         mChosen = name;
         mAction = [operation, values](Call& call) {
@@ -102,13 +126,5 @@ class Commands {
   std::string mChosen;
   std::function<Result(Call&)> mAction;
 };
-
-void addIdentityCommands(Commands& commands);
-void addScreenCommands(Commands& commands);
-void addDisplayCommands(Commands& commands);
-void addScheduleCommands(Commands& commands);
-void addFileCommands(Commands& commands);
-void addNetworkCommands(Commands& commands);
-void addDeviceCommands(Commands& commands);
 
 }  // namespace tovi::cli

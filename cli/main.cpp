@@ -3,6 +3,7 @@
 
 #include "cli/help.h"
 #include "cli/run.h"
+#include "cli/themes.h"
 #include "platform/console.h"
 
 namespace {
@@ -50,13 +51,7 @@ int main(int argc, char** argv) try {
   setHelpFormat(app);
   CLI::App* listen = addOptions(app, options);
   Commands commands({&app, listen});
-  addIdentityCommands(commands);
-  addScreenCommands(commands);
-  addDisplayCommands(commands);
-  addScheduleCommands(commands);
-  addFileCommands(commands);
-  addNetworkCommands(commands);
-  addDeviceCommands(commands);
+  addThemes(commands);
   try {
     const std::vector<std::string> words = tovi::platform::commandLineWords(argc, argv);
     // Which takes them from the back.

@@ -11,8 +11,8 @@ using Json = nlohmann::ordered_json;
 
 struct Result {
   bool done = false;
-  int code = 0;     // the library's own, where it gives one
-  Json value = {};  // null when there is nothing to show
+  int code = 0;                      // the library's own, where it gives one
+  Json value = Json::value_t::null;  // when there is nothing to show
   ToviOutcome outcome = ToviOutcome::Done;
   std::string trouble = {};  // what went wrong outside the library
 };

@@ -10,8 +10,11 @@
 #include <future>
 #include <iomanip>
 #include <iterator>
+#include <mutex>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "platform/paths.h"
@@ -39,6 +42,12 @@ struct Outcome {
 std::string contentOf(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::string repeated(const std::string& text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
 }
 
 class Cli : public testing::Test {
@@ -81,6 +90,13 @@ class Cli : public testing::Test {
     std::string messages = contentOf(streams.err);
     std::erase(messages, '\r');  // the system's line ends
     return {status, contentOf(streams.out), std::move(messages)};
+  }
+
+  // The commands in --help that take no arguments.
+  std::vector<std::string> bareCommands() const {
+    const std::string help = run("--help").out;
+    const std::regex line("\n  ([a-z][a-z-]*)(  |\n)");
+    return {std::sregex_token_iterator(help.begin(), help.end(), line, 1), {}};
   }
 
   sim::Simulator& startController(sim::Options options = {}) {
@@ -150,45 +166,16 @@ TEST_F(Cli, TellsHowItWentByStatusAndStreams) {
   }
 }
 
-// Each of these methods returns something that could be taken for a value.
+// Much of what the methods return then could be taken for a value.
 TEST_F(Cli, TakesNoMissingReplyForAValue) {
   const std::string address = deadAddress();
-  for (const std::string command : {"get-volume-value",
-                                    "get-power-state",
-                                    "get-screen-status",
-                                    "get-is-secret",
-                                    "get-ssh-enabled",
-                                    "get-wifi-state",
-                                    "get-wifi-ap-state",
-                                    "get-close-screen-temperature",
-                                    "get-device-size",
-                                    "get-device-memory-size",
-                                    "get-brightness-info",
-                                    "get-anti-aliasing",
-                                    "get-virtual-connection",
-                                    "get-edid-info",
-                                    "get-video-control-info",
-                                    "get-sync-play",
-                                    "get-current-resolution",
-                                    "get-pre-stored-screen-enabled",
-                                    "get-backups-times",
-                                    "backups",
-                                    "start-screen-point-detect",
-                                    "get-detect-error-point-info",
-                                    "get-rds-road",
-                                    "get-sim-info",
-                                    "get-lora-info",
-                                    "get-all-playlist-id",
-                                    "get-all-media-file-name",
-                                    "get-play-by-time-list",
-                                    "send-heart-beat",
-                                    "set-anti-aliasing on on on",
-                                    "get-now-play-content",
-                                    "get-mac"}) {
-    const Outcome outcome = run(address + " " + command);
-    EXPECT_EQ(outcome.status, 1) << command;
-    EXPECT_EQ(outcome.out, "") << command;
-    EXPECT_NE(outcome.err.find("no connection"), std::string::npos) << command << outcome.err;
+  std::vector<std::string> lines = bareCommands();
+  lines.insert(lines.end(), {"set-anti-aliasing on on on", "set-ssh-enabled on"});
+  for (const std::string& line : lines) {
+    const Outcome outcome = run(address + " " + line);
+    EXPECT_EQ(outcome.status, 1) << line;
+    EXPECT_EQ(outcome.out, "") << line;
+    EXPECT_NE(outcome.err.find("no connection"), std::string::npos) << line << outcome.err;
   }
 }
 
@@ -256,6 +243,7 @@ TEST_F(Cli, RefusesWrongUsageBeforeAnythingIsSent) {
   const std::string fine = file("fine", addressOf(controller) + "\n");
   const std::string empty = file("empty", "# nobody\n");
   const std::string binary = file("binary", std::string("a\0b", 3));
+  const std::string times = std::string(kTime) + " " + kLaterTime;
   const struct {
     std::string arguments;
     const char* err;
@@ -281,11 +269,20 @@ TEST_F(Cli, RefusesWrongUsageBeforeAnythingIsSent) {
       {at + "set-time-and-time-zone 2024-03-01T08:00:00 UTC GMT+00:00", "TIME"},
       {at + "set-time-and-time-zone now \"a b\" GMT+00:00", "ZONE"},
       {at + "set-play-by-time-list", "START END PLAYLIST is required"},
-      {at + "set-play-by-time-list " + kTime + " " + kLaterTime, "has not 3 parts"},
+      {at + "set-play-by-time-list " + times, "has not 3 parts"},
+      {at + "set-play-by-time-list " + times + " 80 " + kTime, "has not 3 parts"},
+      {at + "set-play-by-time-list " + times + " 256", "\"256\" is no number from 0 to 255"},
+      {at + "set-play-by-time-list none none none", "\"none\" is no time as in"},
+      {at + "set-device-power-by-time-list " + kTime, "has not 2 parts"},
+      {at + "set-device-power-by-time-list " + kLaterTime + " " + kTime, "is before"},
+      {at + "set-device-power-by-time-list" + repeated(" " + times, 256), "more than 255 entries"},
       {at + "set-brightness-auto 1 2 3", "1 to 8 pairs"},
+      {at + "set-brightness-auto" + repeated(" 1 2", 9), "1 to 8 pairs"},
+      {at + "set-brightness-auto 1 256", "\"256\" is no number from 0 to 255"},
       {at + "set-device-net-basic-param 1.2.3 1.2.3.4 1.2.3.4 1 1.2.3.4", "IP: \"1.2.3\""},
       {at + "set-rds-road 12a", "DIGITS"},
-      {at + "remove-app-page-name \"\"", "1 to 256"},
+      {at + "remove-app-page-name \"\"", "a text of 0 bytes, where 1 to 256 are taken"},
+      {at + "set-font " + repeated("x", 1025), "a text of 1025 bytes, where 0 to 1024 are taken"},
       {at + "download-files 1", "no JSON array"},
       {at + "set-device-secret-param label 1 on", "MODE"},
       {at + "set-device-secret-param label 0 on 1234567", "SECOND_KEY"},
@@ -331,6 +328,8 @@ TEST_F(Cli, SendsTimetablesInCalendarTimeAndReadsThemBack) {
   EXPECT_EQ(run(at + "get-brightness-by-time-list").out, times + " 255\n");
   EXPECT_EQ(run(at + "set-play-by-time-list none").status, 0);
   EXPECT_EQ(controller.state().timetables.play, literal("00"));
+  EXPECT_EQ(run(at + "set-device-power-by-time-list" + repeated(" " + times, 255)).status, 0);
+  EXPECT_EQ(controller.state().timetables.power.size(), 1U + 255 * 14);
 }
 
 TEST_F(Cli, SendsTheCurveAndReadsItBack) {
@@ -340,6 +339,7 @@ TEST_F(Cli, SendsTheCurveAndReadsItBack) {
             literal("00 0A 00 C8 FF 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"));
   EXPECT_EQ(run(addressOf(controller) + " get-brightness-auto").out,
             "0 10\n200 255\n0 0\n0 0\n0 0\n0 0\n0 0\n0 0\n");
+  EXPECT_EQ(run(addressOf(controller) + " set-brightness-auto" + repeated(" 1 2", 8)).status, 0);
 }
 
 TEST_F(Cli, SetsTheClock) {
@@ -497,32 +497,77 @@ TEST_F(Cli, WaitsNoLongerThanAskedForAControllerThatDialsIn) {
   EXPECT_NE(outcome.err.find("within 1 ms"), std::string::npos) << outcome.err;
 }
 
-// "setServerIPLists" is "set-server-ip-lists".
-std::string commandOf(std::string_view method) {
-  std::string command;
-  const auto upper = [&](std::size_t i) {
-    return i < method.size() && std::isupper(static_cast<unsigned char>(method[i])) != 0;
-  };
-  for (std::size_t i = 0; i < method.size(); ++i) {
-    const bool begins = upper(i) && (!upper(i - 1) || (i + 1 < method.size() && !upper(i + 1)));
-    if (begins) command += '-';
-    command += static_cast<char>(std::tolower(static_cast<unsigned char>(method[i])));
-  }
-  return command;
+// Every command with arguments, but for those of several steps.
+constexpr char kCommandLines[] =
+    "set-power on,set-board-power on,set-board-power-and-screen-power on,set-brightness 1,"
+    "set-relay-powers on on on on,set-brightness-auto 1 1,set-auto-brightness-time-param 1 1,"
+    "set-multi-function-card-power 1 1 on,set-device-volume 1,set-device-power-by-time-list none,"
+    "set-play-by-time-list none,set-brightness-by-time-list none,set-advance-timing x,set-time now,"
+    "set-time-and-time-zone now x x,set-device-ntp-param on x,set-custom-resolution 1 1 1,"
+    "set-edid-info 1 1 1,set-video-control-info 1,set-anti-aliasing on on on,set-sync-play on,"
+    "set-pre-stored-screen-enabled on,set-font x,set-device-name x,set-virtual-connection on 60 1,"
+    "set-device-net-basic-param 1.1.1.1 1.1.1.1 1.1.1.1 1 1.1.1.1,set-ping-ip x,"
+    "set-server-ip-lists x,add-whitelist x,remove-whitelist x,set-wifi-state on,connect-wifi x,"
+    "set-wifi-ap-state on,set-wifi-ap-config x,set-lora-info x,set-rds-road 1,"
+    "set-close-screen-temperature 1,solidify 1,remove-app-page-name x,set-ssh-enabled on,"
+    "set-sensor-info x,get-file-list-name 1,clean-up-files 1,play-list-by-id 1,"
+    "delete-playlist-by-id 1,send-local-update 1 x,send-test-local-update 1 x,"
+    "remove-local-update 1,send-ftp-downloadaddress x,update-file-name x,download-files [],"
+    "set-device-key x,set-device-secret-param x 0 on,get-device-screenshot ";
+
+// A method or a command as both can be compared.
+std::string flat(std::string name) {
+  std::erase(name, '-');
+  for (char& letter : name) letter = static_cast<char>(std::tolower(letter));
+  return name;
 }
 
 TEST_F(Cli, HasACommandForEveryOperation) {
-  const std::string help = run("--help").out;
-  std::vector<std::string> commands = {"send-file", "send-play-list",
-                                       "get-detect-error-point-info"};
+  std::mutex mutex;
+  std::string method;  // of the last exchange
+  sim::Options options;
+  options.onLine = [&](const std::string& line) {
+    std::string peer;
+    const std::lock_guard lock(mutex);
+    std::istringstream(line) >> peer >> method;
+  };
+  auto& controller = startController(std::move(options));
+  std::vector<std::string> lines = bareCommands();
+  std::erase(lines, "get-detect-error-point-info");
+  std::istringstream rest(kCommandLines + path("screen"));
+  for (std::string line; std::getline(rest, line, ',');) lines.push_back(line);
+  std::set<std::string_view> missing;
   for (const wire::Command& row : wire::kCommands) {
-    if (!wire::isStep(row)) commands.push_back(commandOf(row.method));
+    if (!wire::isStep(row)) missing.insert(row.method);
   }
-  for (const std::string& command : commands) {
-    const std::size_t place = help.find("\n  " + command);
-    ASSERT_NE(place, std::string::npos) << command;
-    const char next = help[place + 3 + command.size()];
-    EXPECT_TRUE(next == ' ' || next == '\n') << command;
+  for (const std::string& line : lines) {
+    const std::uint64_t before = controller.exchanges();
+    run(addressOf(controller) + " " + line);
+    EXPECT_TRUE(controller.waitForExchanges(before + 1, std::chrono::seconds(10))) << line;
+    const std::lock_guard lock(mutex);
+    EXPECT_EQ(flat(method), flat(line.substr(0, line.find(' '))));
+    missing.erase(method);
+  }
+  EXPECT_EQ(missing, std::set<std::string_view>());
+  controller.stop();  // which calls onLine
+}
+
+TEST_F(Cli, HelpsWithEachCommandByItsName) {
+  const struct {
+    std::string command, text;  // which stands there, with its length where it is limited
+  } cases[] = {
+      {"get-rds-road", ""},
+      {"set-device-ntp-param", "  Host name or address\n"},
+      {"set-server-ip-lists", "  The list\n"},
+      {"set-ssh-enabled", ""},
+      {"set-font", "  At most 1024 bytes"},
+      {"remove-app-page-name", "  Its package name, 1 to 256 bytes\n"},
+      {"get-detect-error-point-info", ""},
+  };
+  for (const auto& [command, text] : cases) {
+    const Outcome outcome = run(command + " --help");
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_NE(outcome.out.find(text), std::string::npos) << outcome.out;
   }
 }
 

@@ -1,4 +1,4 @@
-// What people type: addresses, keys, times, timetables.
+// What people type: addresses, keys, numbers, times.
 #include <gtest/gtest.h>
 
 #include "cli/endpoint.h"
@@ -6,12 +6,9 @@
 #include "cli/reading.h"
 #include "cli/terminal.h"
 #include "cli/times.h"
-#include "cli/timetable.h"
 
 namespace tovi::cli {
 namespace {
-
-using Words = std::vector<std::string>;
 
 TEST(Endpoint, TakesDottedIpv4AndPort) {
   for (const char* text : {"192.168.1.10:5005", "0.0.0.0:1", "255.255.255.255:65535"}) {
@@ -121,53 +118,6 @@ TEST(Time, IsMillisecondsInUtc) {
   EXPECT_EQ(utcText(253'402'300'799'999), "9999-12-31T23:59:59Z");
   EXPECT_EQ(utcText(253'402'300'800'000), "253402300800000");
   EXPECT_EQ(utcText(-9'223'372'036'854'775'807 - 1), "-9223372036854775808");
-}
-
-constexpr char kEarly[] = "2024-03-01T08:00:00";
-constexpr char kLate[] = "2024-03-01T18:00:00";
-
-TEST(Timetable, IsEntryAfterEntry) {
-  const auto entries = parseTimetable({kEarly, kLate, "80", kLate, kLate, "255"}, true);
-  ASSERT_EQ(entries.size(), 2U);
-  EXPECT_EQ(timeText(entries[0].start), kEarly);
-  EXPECT_EQ(timeText(entries[0].end), kLate);
-  EXPECT_EQ(entries[0].value, 80);
-  EXPECT_EQ(entries[1].value, 255);
-  EXPECT_EQ(parseTimetable({kEarly, kLate, kEarly, kLate}, false).size(), 2U);
-  EXPECT_TRUE(parseTimetable({"none"}, true).empty());
-}
-
-TEST(Timetable, RefusesWhatIsNotWhole) {
-  const Words wrong[] = {{},
-                         {kEarly},
-                         {kEarly, kLate},
-                         {kEarly, kLate, "256"},
-                         {kEarly, kLate, "80", kEarly},
-                         {kEarly, kLate, "80", "none"},
-                         {"none", "none", "none"},
-                         {kLate, kEarly, "80"}};
-  for (const Words& words : wrong) {
-    EXPECT_THROW(parseTimetable(words, true), Unusable) << testing::PrintToString(words);
-  }
-}
-
-TEST(Timetable, HasAtMost255Entries) {
-  Words words;
-  for (int i = 0; i < 255; ++i) words.insert(words.end(), {kEarly, kLate});
-  EXPECT_EQ(parseTimetable(words, false).size(), 255U);
-  words.insert(words.end(), {kEarly, kLate});
-  EXPECT_THROW(parseTimetable(words, false), Unusable);
-}
-
-TEST(Curve, IsOneToEightPairs) {
-  const auto points = parseCurve({"0", "10", "255", "200"});
-  ASSERT_EQ(points.size(), 2U);
-  EXPECT_EQ(points[1].ambient, 255);
-  EXPECT_EQ(points[1].screen, 200);
-  EXPECT_EQ(parseCurve(Words(16, "1")).size(), 8U);
-  for (const Words& words : {Words{}, Words{"1"}, Words(18, "1"), Words{"1", "256"}}) {
-    EXPECT_THROW(parseCurve(words), Unusable) << testing::PrintToString(words);
-  }
 }
 
 TEST(Progress, TellsShareRateAndRest) {
