@@ -102,6 +102,7 @@ class Commands {
     const std::string name = method.command();
     for (CLI::App* parent : mParents) {
       CLI::App* command = parent->add_subcommand(name, help)->group(mGroup);
+      command->footer(parent->get_footer() + "\nOn the wire: " + method.onTheWire() + ".");
       // In braces, as those are worked through from left to right.
       const std::tuple values{argumentOf(method, arguments).declare(*command)...};
       command->callback([this, name, operation, values] {

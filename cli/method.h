@@ -29,6 +29,9 @@ class Method {
   // The same in words, as in "at most 1024 bytes"; empty where only the frame sets a limit.
   std::string textSizeInWords() const;
 
+  // Its codes, as in "command 0xD2, reply 0xD2; text of at most 1024 bytes".
+  std::string onTheWire() const;
+
  private:
   static constexpr std::size_t kMostSteps = 4;
 

@@ -552,22 +552,26 @@ TEST_F(Cli, HasACommandForEveryOperation) {
   controller.stop();  // which calls onLine
 }
 
-TEST_F(Cli, HelpsWithEachCommandByItsName) {
+TEST_F(Cli, EndsTheHelpOfACommandWithItsCodes) {
   const struct {
-    std::string command, text;  // which stands there, with its length where it is limited
+    std::string command, codes, text;  // the text's length among the arguments
   } cases[] = {
-      {"get-rds-road", ""},
-      {"set-device-ntp-param", "  Host name or address\n"},
-      {"set-server-ip-lists", "  The list\n"},
-      {"set-ssh-enabled", ""},
-      {"set-font", "  At most 1024 bytes"},
-      {"remove-app-page-name", "  Its package name, 1 to 256 bytes\n"},
-      {"get-detect-error-point-info", ""},
+      {"get-rds-road", "command 0x9A, reply 0x9A", ""},
+      {"set-device-ntp-param", "command 0x97, reply 0x97", "  Host name or address\n"},
+      {"set-server-ip-lists", "command 0x010D, reply 0x010D", "  The list\n"},
+      {"set-ssh-enabled", "command 0x0110, reply 0x0110", ""},
+      {"send-heart-beat", "command 0x00; no reply is awaited", ""},
+      {"set-font", "command 0xD2, reply 0xD2; text of at most 1024 bytes", "  At most 1024 bytes"},
+      {"remove-app-page-name", "command 0x9F, reply 0x9F; text of 1 to 256 bytes", ", 1 to 256 b"},
+      {"set-brightness-auto", "command 0x07, reply 0x08; then command 0x17, reply 0x18", ""},
+      {"get-detect-error-point-info", "command 0x0B, reply 0x0C; then command 0x36, reply 0x37",
+       ""},
+      {"send-file", "command 0x11, reply 0x12; then command 0x13, reply 0x14; then reply 0xF9", ""},
   };
-  for (const auto& [command, text] : cases) {
-    const Outcome outcome = run(command + " --help");
-    EXPECT_EQ(outcome.status, 0) << outcome.err;
-    EXPECT_NE(outcome.out.find(text), std::string::npos) << outcome.out;
+  for (const auto& [command, codes, text] : cases) {
+    const std::string help = run(command + " --help").out;
+    EXPECT_NE(help.find(text), std::string::npos) << help;
+    EXPECT_TRUE(help.ends_with("\nOn the wire: " + codes + ".\n")) << help;
   }
 }
 
