@@ -10,7 +10,7 @@ namespace {
 using wire::command;
 
 constexpr long long kMinuteMs = 60'000;
-constexpr long long kDayMs = 24 * 60 * kMinuteMs;
+constexpr long long kDayMs = kMinuteMs * 60 * 24;
 constexpr long long kFarthestMs = 253'402'300'799'999;  // the end of the year 9999, and as far back
 constexpr std::size_t kMaxText = 256;
 
@@ -21,7 +21,7 @@ long long offsetMs(std::string_view text) {
   int minutes = 0;
   std::from_chars(text.data() + 4, text.data() + 6, hours);
   std::from_chars(text.data() + 7, text.data() + 9, minutes);
-  return (text[3] == '-' ? -1 : 1) * (hours * 60 + minutes) * kMinuteMs;
+  return (text[3] == '-' ? -kMinuteMs : kMinuteMs) * (hours * 60 + minutes);
 }
 
 // The day of the month where the controller stands.

@@ -19,7 +19,7 @@ std::size_t rowSize(int width) { return (static_cast<std::size_t>(width) + 3) / 
 // A bitmap of 8 bits a pixel, whose palette is 256 greys.
 Bytes greyPicture(int width, int height, std::uint8_t grey) {
   constexpr std::size_t kHeaders = 14 + 40;
-  constexpr std::size_t kPalette = 256 * 4;
+  constexpr std::size_t kPalette = std::size_t{256} * 4;
   const std::size_t pixels = rowSize(width) * static_cast<std::size_t>(height);
 
   Bytes picture{'B', 'M'};
@@ -37,7 +37,7 @@ Bytes greyPicture(int width, int height, std::uint8_t grey) {
   appendLowFirst(picture, 0, 8);
   appendLowFirst(picture, 256, 4);
   appendLowFirst(picture, 0, 4);
-  for (unsigned level = 0; level < 256; ++level) appendLowFirst(picture, level * 0x010101U, 4);
+  for (std::uint64_t level = 0; level < 256; ++level) appendLowFirst(picture, level * 0x010101, 4);
   picture.resize(kHeaders + kPalette + pixels, grey);
   return picture;
 }
