@@ -2,20 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <deque>
 #include <system_error>
 #include <utility>
 
+#include "simulator/connection.h"
 #include "simulator/describe.h"
 
 namespace tovi::sim {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = Connection::Clock;
 using std::chrono::milliseconds;
 
 constexpr int kDialMs = 5000;
-constexpr int kWakeMs = 1000;
 constexpr std::size_t kReceiveSize = 65'536;
 
 // A peer that takes nothing for so long is given up, because meanwhile all others wait.
@@ -26,33 +25,6 @@ constexpr int kSendMs = 2000;
 constexpr milliseconds kAcceptPause{20};
 
 }  // namespace
-
-struct Simulator::Connection {
-  struct Due {
-    Clock::time_point when;
-    Step step;
-  };
-
-  platform::Socket socket;
-  std::string peer;
-  FrameReader reader;
-  Session session;
-  std::deque<Due> due;
-  bool hangingUp =
-      false;  // a step that ends the connection is due; requests are not heard any more
-  bool ended = false;
-
-  // Nothing is read while a reply is due, so a peer that asks without listening fills no memory.
-  bool isListening() const { return due.empty() && !hangingUp && !ended; }
-
-  void add(std::vector<Step> steps) {
-    for (Step& step : steps) {
-      const Clock::time_point before = due.empty() ? Clock::now() : due.back().when;
-      hangingUp = hangingUp || step.end != End::Stay;
-      due.push_back({before + milliseconds(step.delayMs), std::move(step)});
-    }
-  }
-};
 
 Simulator::Simulator(Options options)
     : mOptions(std::move(options)),
@@ -72,7 +44,7 @@ bool Simulator::start() {
     mError = "the socket layer does not start";
     return false;
   }
-  if (!openWakeUp() || !(mOptions.dial ? dial() : listen())) {
+  if (!openSockets()) {
     releaseSockets();
     return false;
   }
@@ -81,48 +53,33 @@ bool Simulator::start() {
   return true;
 }
 
-bool Simulator::listen() {
-  mListener = platform::listenOn(mOptions.listen.address, mOptions.listen.port);
-  if (mListener == platform::kInvalidSocket) {
-    fail("cannot listen on " + endpointText(mOptions.listen));
+bool Simulator::openSockets() {
+  if (!mWakeUp.open()) {
+    fail("cannot connect to itself");
     return false;
   }
+  const Endpoint& endpoint = mOptions.dial ? *mOptions.dial : mOptions.listen;
+  const std::string what = mOptions.dial ? "cannot reach a host at " : "cannot listen on ";
+  const bool opened = mOptions.dial ? dial(endpoint.address, endpoint.port)
+                                    : listen(endpoint.address, endpoint.port);
+  if (!opened) fail(what + endpointText(endpoint));
+  return opened;
+}
+
+bool Simulator::listen(const std::string& address, std::uint16_t port) {
+  mListener = platform::listenOn(address, port);
+  if (mListener == platform::kInvalidSocket) return false;
   mPort = platform::localPort(mListener);
   return true;
 }
 
-bool Simulator::dial() {
-  const Endpoint& host = *mOptions.dial;
+bool Simulator::dial(const std::string& address, std::uint16_t port) {
   const platform::Socket socket = platform::openSocket();
-  if (socket != platform::kInvalidSocket &&
-      platform::connectSocket(socket, host.address.c_str(), host.port, kDialMs)) {
-    addConnection(socket);
-    return true;
-  }
-  fail("cannot reach a host at " + endpointText(host));
-  if (socket != platform::kInvalidSocket) platform::closeSocket(socket);
-  return false;
-}
-
-bool Simulator::openWakeUp() {
-  const platform::Socket listener = platform::listenOn("127.0.0.1", 0);
-  const platform::Socket own = platform::openSocket();
-  const bool ready =
-      listener != platform::kInvalidSocket && own != platform::kInvalidSocket &&
-      platform::connectSocket(own, "127.0.0.1", platform::localPort(listener), kWakeMs);
-  if (ready) {
-    // A stranger may have been faster; ours is the connection that comes from our own port.
-    const std::string ours = "127.0.0.1:" + std::to_string(platform::localPort(own));
-    do {
-      if (mWoken != platform::kInvalidSocket) platform::closeSocket(mWoken);
-      mWoken = platform::acceptOne(listener);
-    } while (mWoken != platform::kInvalidSocket && platform::peerName(mWoken) != ours);
-  }
-  mWake = own;
-  const bool opened = mWoken != platform::kInvalidSocket;
-  if (!opened) fail("cannot connect to itself");
-  if (listener != platform::kInvalidSocket) platform::closeSocket(listener);
-  return opened;
+  if (socket == platform::kInvalidSocket) return false;
+  addConnection(socket);
+  if (!platform::connectSocket(socket, address.c_str(), port, kDialMs)) return false;
+  mConnections.back()->peer = platform::peerName(socket);
+  return true;
 }
 
 void Simulator::fail(const std::string& what) {
@@ -133,10 +90,9 @@ void Simulator::fail(const std::string& what) {
 void Simulator::releaseSockets() {
   for (const auto& connection : mConnections) platform::closeSocket(connection->socket);
   mConnections.clear();
-  for (platform::Socket* socket : {&mListener, &mWake, &mWoken}) {
-    if (*socket != platform::kInvalidSocket) platform::closeSocket(*socket);
-    *socket = platform::kInvalidSocket;
-  }
+  if (mListener != platform::kInvalidSocket) platform::closeSocket(mListener);
+  mListener = platform::kInvalidSocket;
+  mWakeUp.close();
   platform::cleanUpSockets();
 }
 
@@ -144,7 +100,7 @@ void Simulator::stop() {
   const std::lock_guard lock(mStopMutex);
   if (!mThread.joinable()) return;
   mStopping = true;
-  platform::sendAll(mWake, "x", kWakeMs);
+  mWakeUp.wake();
   mThread.join();
   releaseSockets();
 }
@@ -171,7 +127,7 @@ void Simulator::run() {
       if (connection->isListening()) heard.push_back(connection.get());
     }
     const bool accepting = mayAccept();
-    std::vector<platform::Watched> watched{{mWoken, false}};
+    std::vector<platform::Watched> watched{{mWakeUp.socket(), false}};
     for (const Connection* connection : heard) watched.push_back({connection->socket, false});
     if (accepting) watched.push_back({mListener, false});
 
@@ -226,10 +182,8 @@ void Simulator::acceptOne() {
 }
 
 void Simulator::addConnection(platform::Socket socket) {
-  auto connection = std::make_unique<Connection>();
-  connection->socket = socket;
-  connection->peer = platform::peerName(socket);
-  mConnections.push_back(std::move(connection));
+  mConnections.push_back(
+      std::make_unique<Connection>(Connection{socket, platform::peerName(socket)}));
 }
 
 void Simulator::receive(Connection& connection) {

@@ -20,6 +20,7 @@
 #include "simulator/endpoint.h"
 #include "simulator/exchange.h"
 #include "simulator/faults.h"
+#include "simulator/wake_up.h"
 
 namespace tovi::sim {
 
@@ -39,6 +40,8 @@ struct Options {
   std::uint64_t exchangeLimit = 0;    // ends by itself after so many; 0: never
   std::size_t maxConnections = 4096;  // more wait until one ends
 };
+
+struct Connection;
 
 // Serves any number of connections on one thread of its own. One start per object.
 class Simulator {
@@ -69,11 +72,9 @@ class Simulator {
   State state() const { return mController.state(); }
 
  private:
-  struct Connection;
-
-  bool listen();
-  bool dial();
-  bool openWakeUp();
+  bool openSockets();
+  bool listen(const std::string& address, std::uint16_t port);
+  bool dial(const std::string& address, std::uint16_t port);
   void fail(const std::string& what);
   void releaseSockets();
 
@@ -96,9 +97,7 @@ class Simulator {
   std::uint16_t mPort = 0;
 
   platform::Socket mListener = platform::kInvalidSocket;
-  // A connection to ourselves: a byte into one end wakes the thread at the other.
-  platform::Socket mWake = platform::kInvalidSocket;
-  platform::Socket mWoken = platform::kInvalidSocket;
+  WakeUp mWakeUp;
   std::vector<std::unique_ptr<Connection>> mConnections;
   std::chrono::steady_clock::time_point mAcceptAfter{};
 
