@@ -2,10 +2,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "cli/interrupt.h"
 #include "cli/progress.h"
 #include "cli/themes.h"
 #include "platform/paths.h"
+#include "tools/interrupt.h"
 
 namespace tovi::cli {
 namespace {
@@ -22,12 +22,12 @@ std::string readablePath(const std::string& path) {
 
 // Stopped by the user between two chunks; controllers that were not begun with are left alone.
 Result sendFile(Call& call, const std::string& path, const std::string& name) {
-  stopOnInterrupt();
-  if (interrupted()) return {false, ToviTraffic::STOPPED_BY_HOST};
+  tools::stopOnInterrupt();
+  if (tools::interrupted()) return {false, ToviTraffic::STOPPED_BY_HOST};
   ProgressBar bar(call.progress);
   const auto progress = [&bar](long long sent, long long total) {
     bar.show(sent, total);
-    return !interrupted();
+    return !tools::interrupted();
   };
   return ofCode(call.traffic,
                 call.traffic.sendFile(localPath(path).c_str(), name.c_str(), progress));

@@ -5,16 +5,18 @@
 #include "cli/run.h"
 #include "cli/themes.h"
 #include "platform/console.h"
+#include "tools/command_line.h"
 
 namespace {
 
 using namespace tovi::cli;
+namespace tools = tovi::tools;
 
 int run(const Options& options, const Commands& commands) {
   std::FILE* results = tovi::platform::takeStandardOutput();
   if (results == nullptr) {
     std::fputs("tovi: standard output cannot be used\n", stderr);
-    return kFailed;
+    return tools::kFailed;
   }
   setUpLog(options);
   const Job job{options, commands, results};
@@ -23,7 +25,7 @@ int run(const Options& options, const Commands& commands) {
                                       : runOne(job);
   if (std::fflush(results) == 0 && std::ferror(results) == 0) return status;
   std::fputs("tovi: the results cannot be written\n", stderr);
-  return kFailed;
+  return tools::kFailed;
 }
 
 // Words that nothing has taken explain more than what the parser found missing for lack of them.
@@ -37,7 +39,7 @@ std::string complaintOf(const CLI::App& app, const Options& options, const CLI::
   const std::string word = quoted(rest.front());
   if (word.starts_with("\"-")) return word + " is no option";
   if (!options.controller && !options.hosts && !options.listen) {
-    return word + " is no controller, which is an IPv4 address and port as in 192.168.1.10:5005";
+    return word + " is no controller, which is " + tools::kEndpointForm;
   }
   return word + (hasCommand ? " is one argument too many" : " is no command");
 }
@@ -53,9 +55,7 @@ int main(int argc, char** argv) try {
   Commands commands({&app, listen});
   addThemes(commands);
   try {
-    const std::vector<std::string> words = tovi::platform::commandLineWords(argc, argv);
-    // Which takes them from the back.
-    app.parse(std::vector<std::string>(words.rbegin(), words.rend() - 1));
+    tools::parseWords(app, argc, argv);
     checkOptions(options);
   } catch (const CLI::Success& request) {  // --help, --version
     return app.exit(request);
@@ -64,10 +64,10 @@ int main(int argc, char** argv) try {
     const bool hasCommand = !parent.get_subcommands().empty();
     std::fprintf(stderr, "tovi: %s\nTry tovi --help.\n",
                  complaintOf(app, options, error, hasCommand).c_str());
-    return kUsage;
+    return tools::kUsage;
   }
   return run(options, commands);
 } catch (const std::exception& error) {
   std::fprintf(stderr, "tovi: %s\n", error.what());
-  return tovi::cli::kFailed;
+  return tovi::tools::kFailed;
 }

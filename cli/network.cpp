@@ -1,13 +1,13 @@
 // The controller's addresses, and those that it knows.
-#include "cli/endpoint.h"
 #include "cli/themes.h"
+#include "tools/endpoint.h"
 
 namespace tovi::cli {
 namespace {
 
 Argument<std::string> ipv4(const std::string& name, const std::string& help) {
   return argument(name, help, [](const std::string& given) {
-    if (!isDottedIpv4(given)) throw Unusable(quoted(given) + " is no IPv4 address");
+    if (!tools::isDottedIpv4(given)) throw Unusable(quoted(given) + " is no IPv4 address");
     return given;
   });
 }

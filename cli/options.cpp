@@ -2,26 +2,12 @@
 
 #include <tovisdk/tovisdk.h>
 
+#include "cli/hosts.h"
 #include "cli/reading.h"
+#include "tools/command_line.h"
 
 namespace tovi::cli {
 namespace {
-
-// An option whose text becomes a value through `parse`; `complaint` says what it should have been,
-// without the text, which may be secret.
-template <class Value, class Target>
-CLI::Option* addParsed(CLI::App& app, const std::string& name, const std::string& help,
-                       Target& target, std::optional<Value> (*parse)(std::string_view),
-                       const std::string& complaint) {
-  return app.add_option_function<std::string>(
-      name,
-      [name, parse, complaint, &target](const std::string& text) {
-        const std::optional<Value> value = parse(text);
-        if (!value) throw CLI::ValidationError(name, complaint);
-        target = *value;
-      },
-      help);
-}
 
 CLI::Option* addNumber(CLI::App& app, const std::string& name, const std::string& help, int& target,
                        int least, int most) {
@@ -37,11 +23,11 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, const std::string
       help);
 }
 
-std::vector<Endpoint> readHosts(const std::string& path) {
+std::vector<tools::Endpoint> readHosts(const std::string& path) {
   const std::optional<std::string> text = readText(path);
   if (!text) throw CLI::ValidationError("--hosts", "cannot read " + quoted(path));
   try {
-    std::vector<Endpoint> hosts = parseHosts(*text);
+    std::vector<tools::Endpoint> hosts = parseHosts(*text);
     if (hosts.empty()) throw Unusable("it names no controller");
     return hosts;
   } catch (const Unusable& reason) {
@@ -52,9 +38,13 @@ std::vector<Endpoint> readHosts(const std::string& path) {
 void addTargets(CLI::App& app, Options& options) {
   // With a check, so that only what looks like a controller is taken for one: words that a command
   // leaves over come by here too.
-  addParsed<Endpoint>(app, "CONTROLLER", "Address and port, as in 192.168.1.10:5005",
-                      options.controller, parseEndpoint, "no controller")
-      ->check([](const std::string& text) { return parseEndpoint(text) ? "" : "no controller"; });
+  tools::addParsed<tools::Endpoint>(
+      app, "CONTROLLER",
+      "Address or name, and port, as in 192.168.1.10:5005\nor sign-north.example:5005",
+      options.controller, tools::parseEndpoint, "no controller")
+      ->check([](const std::string& text) {
+        return tools::parseEndpoint(text) ? "" : "no controller";
+      });
   app.add_option_function<std::string>(
          "--hosts", [&options](const std::string& path) { options.hosts = readHosts(path); },
          "Run the command on all controllers of a file: one HOST:PORT a line,\n"
@@ -66,8 +56,10 @@ void addTargets(CLI::App& app, Options& options) {
 }
 
 void addSessionOptions(CLI::App& app, Options& options) {
-  addParsed<Key>(app, "--key", "Encipher the exchange: des, aes or sm4, and exactly 8 characters",
-                 options.key, parseKey, "a key is des:, aes: or sm4: and exactly 8 characters")
+  tools::addParsed<tools::Key>(
+      app, "--key",
+      "Encipher the exchange: des, aes or sm4, and exactly 8 characters;\nnone unless given",
+      options.key, tools::parseKey, tools::kKeyForm)
       ->type_name("CIPHER:PASSWORD");
   addNumber(app, "--timeout",
             "Limit of each send and each read, 0 to 3600000 ms; 0 waits for ever,\n"
@@ -103,11 +95,11 @@ CLI::App* addOptions(CLI::App& app, Options& options) {
   CLI::App* listen =
       app.add_subcommand("listen", "Wait for a controller to dial in and run a command on it");
   listen->group("Controllers that dial in")->require_subcommand(1);
-  addParsed<Endpoint>(*listen, "PORT",
-                      "Where to wait, as in 5005, or 192.168.1.2:5005 for one address of this\n"
-                      "machine; port 0: any free one",
-                      options.listen, parseListenEndpoint,
-                      "a port is 0 to 65535, alone or behind an IPv4 address and a colon")
+  tools::addParsed<tools::Endpoint>(
+      *listen, "PORT",
+      "Where to wait, as in 5005, or 192.168.1.2:5005 for one address of this\n"
+      "machine; port 0: any free one",
+      options.listen, tools::parseListenEndpoint, tools::kListenForm)
       ->required();
   addNumber(*listen, "--wait",
             "Give up after so long, 0 to 86400000 ms; 0 waits for ever, 60000 unless given",
@@ -132,17 +124,17 @@ void setUpLog(const Options& options) {
 
 void setUp(ToviTraffic& traffic, const Options& options) {
   traffic.setTimeout(options.timeoutMs);
-  const char* password = options.key.password.c_str();
+  const char* password = options.key.text.c_str();
   switch (options.key.cipher) {
-    case Key::Cipher::None:
+    case tools::Cipher::None:
       break;
-    case Key::Cipher::Des:
+    case tools::Cipher::Des:
       traffic.setDesKey(password);
       break;
-    case Key::Cipher::Aes:
+    case tools::Cipher::Aes:
       traffic.setAesKey(password);
       break;
-    case Key::Cipher::Sm4:
+    case tools::Cipher::Sm4:
       traffic.setSM4Key(password);
       break;
   }

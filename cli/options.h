@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/endpoint.h"
+#include "tools/endpoint.h"
+#include "tools/key.h"
 
 class ToviTraffic;
 
@@ -14,13 +15,13 @@ namespace tovi::cli {
 
 struct Options {
   // One of these three tells which controllers are meant.
-  std::optional<Endpoint> controller;
-  std::optional<std::vector<Endpoint>> hosts;
-  std::optional<Endpoint> listen;
+  std::optional<tools::Endpoint> controller;
+  std::optional<std::vector<tools::Endpoint>> hosts;
+  std::optional<tools::Endpoint> listen;
 
   int jobs = 16;
   int waitMs = 60'000;  // for a controller to dial in; 0: no limit
-  Key key;
+  tools::Key key;
   int timeoutMs = 5000;
   int logLevel = 4;
   std::string logDir;

@@ -2,27 +2,20 @@
 
 #include <tovisdk/text.h>
 
-#include <charconv>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 
 #include "platform/paths.h"
+#include "tools/number.h"
 
 namespace tovi::cli {
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
-std::optional<int> parseNumber(std::string_view text, int most) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole && text.front() != '-' && number <= most ? std::optional(number) : std::nullopt;
-}
-
 int numberWithin(const std::string& word, int least, int most) {
-  const std::optional<int> number = parseNumber(word, most);
-  if (!number || *number < least) {
+  const std::optional<int> number = tools::parseNumber(word, least, most);
+  if (!number) {
     throw Unusable(quoted(word) + " is no number from " + std::to_string(least) + " to " +
                    std::to_string(most));
   }

@@ -4,7 +4,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace tovi::cli {
 
@@ -15,10 +14,7 @@ struct Unusable : std::runtime_error {
 
 std::string quoted(const std::string& text);
 
-// A decimal number without sign, of which every character counts.
-std::optional<int> parseNumber(std::string_view text, int most);
-
-// Throws Unusable.
+// A decimal number without sign, of which every character counts. Throws Unusable.
 int numberWithin(const std::string& word, int least, int most);
 
 // A path as the library takes it, which is in the local code page. Throws Unusable when that lacks

@@ -6,12 +6,9 @@
 
 #include "cli/commands.h"
 #include "cli/options.h"
+#include "tools/command_line.h"
 
 namespace tovi::cli {
-
-constexpr int kDone = 0;
-constexpr int kFailed = 1;
-constexpr int kUsage = 2;
 
 // What a run needs to know. Results go to a stream of their own, since the library prints lines to
 // the standard output.
@@ -30,5 +27,8 @@ Result resultOf(const Job& job, Call& call);
 
 // Runs it on the one controller there is, and prints the result.
 int runAlone(const Job& job, ToviTraffic& traffic, const std::string& controller);
+
+// Of a controller whose name leads nowhere.
+Result noSuchHost();
 
 }  // namespace tovi::cli

@@ -34,23 +34,29 @@ platform::Socket awaitController(platform::Socket listener, int waitMs) {
   return controller;
 }
 
+int cannotWait(const tools::Endpoint& endpoint, const char* why) {
+  std::fprintf(stderr, "tovi: cannot wait on %s: %s\n", tools::endpointText(endpoint).c_str(), why);
+  return tools::kFailed;
+}
+
 int listenAndRun(const Job& job) {
-  Endpoint endpoint = *job.options.listen;
-  const OwnSocket listener(platform::listenOn(endpoint.address, endpoint.port));
+  tools::Endpoint endpoint = *job.options.listen;
+  const auto address = tools::addressOf(endpoint.host);
+  if (!address) return cannotWait(endpoint, tools::kNoSuchHost);
+  const OwnSocket listener(platform::listenOn(*address, endpoint.port));
   if (!listener.isOpen()) {
-    std::fprintf(stderr, "tovi: cannot wait on %s: the port is taken, or the address is not ours\n",
-                 endpointText(endpoint).c_str());
-    return kFailed;
+    return cannotWait(endpoint, "the port is taken, or the address is not ours");
   }
   endpoint.port = platform::localPort(listener.get());
   if (!job.options.quiet) {
-    std::fprintf(stderr, "tovi: waiting for a controller on %s\n", endpointText(endpoint).c_str());
+    std::fprintf(stderr, "tovi: waiting for a controller on %s\n",
+                 tools::endpointText(endpoint).c_str());
   }
   const OwnSocket controller(awaitController(listener.get(), job.options.waitMs));
   if (!controller.isOpen()) {
     std::fprintf(stderr, "tovi: no controller dialled in on %s within %d ms; see --wait\n",
-                 endpointText(endpoint).c_str(), job.options.waitMs);
-    return kFailed;
+                 tools::endpointText(endpoint).c_str(), job.options.waitMs);
+    return tools::kFailed;
   }
   ToviTraffic traffic(controller.get());
   return runAlone(job, traffic, platform::peerName(controller.get()));
@@ -61,7 +67,7 @@ int listenAndRun(const Job& job) {
 int runListening(const Job& job) {
   if (platform::startUpSockets() != platform::StartUp::Ready) {
     std::fputs("tovi: the system's sockets cannot be used\n", stderr);
-    return kFailed;
+    return tools::kFailed;
   }
   const int status = listenAndRun(job);
   platform::cleanUpSockets();

@@ -14,7 +14,7 @@ namespace {
 // Prints a line per controller, in their order, each as soon as those before it are there.
 class Report {
  public:
-  Report(const Job& job, const std::vector<Endpoint>& hosts)
+  Report(const Job& job, const std::vector<tools::Endpoint>& hosts)
       : mJob(job), mHosts(hosts), mResults(hosts.size()) {}
 
   void add(std::size_t index, Result result) {
@@ -22,7 +22,7 @@ class Report {
     (result.done ? mDone : mFailed) += 1;
     mResults[index] = std::move(result);
     for (; mNext < mResults.size() && mResults[mNext]; ++mNext) {
-      print(endpointText(mHosts[mNext]), *mResults[mNext]);
+      print(tools::endpointText(mHosts[mNext]), *mResults[mNext]);
       mResults[mNext]->value = {};
     }
     std::fflush(mJob.results);
@@ -50,7 +50,7 @@ class Report {
   }
 
   const Job& mJob;
-  const std::vector<Endpoint>& mHosts;
+  const std::vector<tools::Endpoint>& mHosts;
   std::mutex mMutex;
   std::vector<std::optional<Result>> mResults;
   std::size_t mNext = 0;
@@ -58,9 +58,11 @@ class Report {
   int mFailed = 0;
 };
 
-Result runOn(const Job& job, const Endpoint& endpoint) {
-  ToviTraffic traffic(endpoint.address.c_str(), endpoint.port);
-  Call call{traffic, endpointText(endpoint)};
+Result runOn(const Job& job, const tools::Endpoint& endpoint) {
+  const auto address = tools::addressOf(endpoint.host);
+  if (!address) return noSuchHost();
+  ToviTraffic traffic(address->c_str(), endpoint.port);
+  Call call{traffic, tools::endpointText(endpoint)};
   call.several = true;
   return resultOf(job, call);
 }
@@ -68,7 +70,7 @@ Result runOn(const Job& job, const Endpoint& endpoint) {
 }  // namespace
 
 int runMany(const Job& job) {
-  const std::vector<Endpoint>& hosts = *job.options.hosts;
+  const std::vector<tools::Endpoint>& hosts = *job.options.hosts;
   Report report(job, hosts);
   std::atomic<std::size_t> next{0};
   const auto work = [&] {
@@ -84,7 +86,7 @@ int runMany(const Job& job) {
   work();
   for (std::thread& helper : helpers) helper.join();
   report.summarize();
-  return report.allDone() ? kDone : kFailed;
+  return report.allDone() ? tools::kDone : tools::kFailed;
 }
 
 }  // namespace tovi::cli

@@ -20,6 +20,11 @@ void print(const Job& job, const std::string& controller, const Result& result) 
   }
 }
 
+int report(const Job& job, const std::string& controller, const Result& result) {
+  print(job, controller, result);
+  return result.done ? tools::kDone : tools::kFailed;
+}
+
 }  // namespace
 
 Result resultOf(const Job& job, Call& call) try {
@@ -34,15 +39,22 @@ Result resultOf(const Job& job, Call& call) try {
 int runAlone(const Job& job, ToviTraffic& traffic, const std::string& controller) {
   Call call{traffic, controller};
   if (!job.options.quiet && platform::isTerminal(stderr)) call.progress = stderr;
-  const Result result = resultOf(job, call);
-  print(job, controller, result);
-  return result.done ? kDone : kFailed;
+  return report(job, controller, resultOf(job, call));
+}
+
+Result noSuchHost() {
+  Result result;
+  result.trouble = tools::kNoSuchHost;
+  return result;
 }
 
 int runOne(const Job& job) {
-  const Endpoint& endpoint = *job.options.controller;
-  ToviTraffic traffic(endpoint.address.c_str(), endpoint.port);
-  return runAlone(job, traffic, endpointText(endpoint));
+  const tools::Endpoint& endpoint = *job.options.controller;
+  const std::string controller = tools::endpointText(endpoint);
+  const auto address = tools::addressOf(endpoint.host);
+  if (!address) return report(job, controller, noSuchHost());
+  ToviTraffic traffic(address->c_str(), endpoint.port);
+  return runAlone(job, traffic, controller);
 }
 
 }  // namespace tovi::cli

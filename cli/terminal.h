@@ -1,4 +1,4 @@
-// Results on their way to a stream, and what a terminal must be kept from.
+// Results on their way to a stream.
 #pragma once
 
 #include <cstdio>
@@ -6,11 +6,7 @@
 
 namespace tovi::cli {
 
-// Control characters but for line ends and tabs become "?": a text that a controller tells shall
-// not move the cursor, name the window or type for the user.
-std::string harmless(std::string text);
-
-// A line of results: harmless on a terminal, as it is elsewhere.
+// A line of results: on a terminal what is safe to print of it, elsewhere as it is.
 void printLine(std::FILE* results, const std::string& text);
 
 }  // namespace tovi::cli

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "cli/reading.h"
+#include "tools/number.h"
 
 namespace tovi::cli {
 namespace {
@@ -30,7 +30,7 @@ bool readFields(std::string_view text, std::tm& time) {
     if (kForm[i] == 'd' ? !isDigit : text[i] != kForm[i]) return false;
   }
   const auto field = [text](std::size_t from, std::size_t size) {
-    return *parseNumber(text.substr(from, size), 9999);
+    return *tools::parseNumber(text.substr(from, size), 0, 9999);
   };
   time.tm_year = field(0, 4) - kFirstYear;
   time.tm_mon = field(5, 2) - 1;

@@ -3,6 +3,7 @@
 
 #include "simulator/json.h"
 #include "simulator/shapes.h"
+#include "tools/printable.h"
 
 namespace tovi::sim {
 namespace {
@@ -43,7 +44,7 @@ Answer resetDeviceIpToDefault(const Request& request) {
 Answer addWhitelist(const Request& request) {
   auto& list = request.state.network.whitelist;
   const std::string entry = textOf(request.payload);
-  if (printable(entry) != entry) return request.refuse();
+  if (tools::printable(entry) != entry) return request.refuse();
   if (std::find(list.begin(), list.end(), entry) == list.end()) {
     if (list.size() == kMaxWhitelist) return request.refuse("the list is full");
     list.push_back(entry);

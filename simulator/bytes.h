@@ -18,7 +18,4 @@ std::string textOf(View bytes);
 // "AA FF 07"; with a limit, the first bytes and how many there are in all.
 std::string hex(View bytes, std::size_t limit = SIZE_MAX);
 
-// Text of a stranger, safe to print: UTF-8 stays, control characters and other bytes become \xNN.
-std::string printable(std::string_view text);
-
 }  // namespace tovi::sim

@@ -9,17 +9,9 @@
 namespace tovi::sim {
 namespace {
 
-constexpr std::size_t kKeyTextLength = 8;
 constexpr std::uint8_t kSecretParamRequest = 0x70;
 constexpr std::uint8_t kSecretParamReply = 0x71;
 constexpr std::uint16_t kIsSecret = 0x010C;
-
-struct Named {
-  Cipher cipher;
-  std::string_view name;
-};
-constexpr Named kNames[] = {
-    {Cipher::None, "none"}, {Cipher::Des, "des"}, {Cipher::Aes, "aes"}, {Cipher::Sm4, "sm4"}};
 
 Bytes halfOfDigestText(const std::string& text) {
   std::array<std::uint8_t, EVP_MAX_MD_SIZE> digest{};
@@ -91,27 +83,6 @@ std::optional<Bytes> transform(const Key& key, View input, Direction direction) 
 }
 
 }  // namespace
-
-std::optional<Key> parseKey(std::string_view text) {
-  if (text == "none") return Key{};
-  const std::size_t colon = text.find(':');
-  if (colon == std::string_view::npos) return std::nullopt;
-  const std::string_view secret = text.substr(colon + 1);
-  for (const Named& named : kNames) {
-    if (named.cipher != Cipher::None && named.name == text.substr(0, colon) &&
-        secret.size() == kKeyTextLength) {
-      return Key{named.cipher, std::string(secret)};
-    }
-  }
-  return std::nullopt;
-}
-
-std::string_view cipherName(Cipher cipher) {
-  for (const Named& named : kNames) {
-    if (named.cipher == cipher) return named.name;
-  }
-  return "";
-}
 
 Bytes encipher(const Key& key, View plain) { return transform(key, plain, Encrypt).value(); }
 

@@ -8,25 +8,15 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "simulator/wire.h"
+#include "tools/key.h"
 
 namespace tovi::sim {
 
-enum class Cipher { None, Des, Aes, Sm4 };
-
-struct Key {
-  Cipher cipher = Cipher::None;
-  std::string text;  // exactly 8 characters, unless there is no cipher
-};
-
-// "des:12345678", "aes:…", "sm4:…" or "none".
-std::optional<Key> parseKey(std::string_view text);
-
-// "des", "aes", "sm4" or "none".
-std::string_view cipherName(Cipher cipher);
+using tools::Cipher;
+using tools::Key;
+using tools::parseKey;
 
 Bytes encipher(const Key& key, View plain);
 

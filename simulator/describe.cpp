@@ -36,7 +36,7 @@ std::string frameFields(std::string_view title, std::string_view method, const C
   text += field("command", raw.subspan(kWhatOffset, 1), extended ? "16-bit code follows" : method);
   text += field("payload", pack(carried.message), extended ? method : std::string_view{});
   if (carried.cipher != Cipher::None) {
-    text += field("ciphered", carried.body, cipherName(carried.cipher));
+    text += field("ciphered", carried.body, tools::cipherName(carried.cipher));
   }
   if (!std::equal(wire.begin(), wire.end(), carried.body.begin(), carried.body.end())) {
     text += field("escaped", wire);
@@ -55,7 +55,7 @@ std::string exchangeLine(std::string_view peer, const Exchange& exchange) {
 
   Cipher cipher = exchange.request.cipher;
   for (const Carried& reply : exchange.replies) cipher = std::max(cipher, reply.cipher);
-  if (cipher != Cipher::None) line += "   [" + std::string(cipherName(cipher)) + "]";
+  if (cipher != Cipher::None) line += "   [" + std::string(tools::cipherName(cipher)) + "]";
   if (exchange.fault) line += "   (fault: " + std::string(faultName(*exchange.fault)) + ")";
   return line;
 }

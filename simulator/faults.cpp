@@ -1,9 +1,9 @@
 #include "simulator/faults.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
+#include "tools/number.h"
 #include "wire/command_table.h"
 
 namespace tovi::sim {
@@ -43,12 +43,7 @@ constexpr Kind kKinds[] = {
     {FaultKind::WrongKey, "wrong-key", "the reply is enciphered with another key"},
 };
 
-template <typename Number>
-bool parseNumber(std::string_view text, Number smallest, Number largest, Number& number) {
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc{} && stop == end && number >= smallest && number <= largest;
-}
+constexpr unsigned kMaxCount = ~0U;
 
 // "sendFileContent" or "sendFileContent#3".
 bool parseTarget(std::string_view text, Fault& fault) {
@@ -56,8 +51,10 @@ bool parseTarget(std::string_view text, Fault& fault) {
   for (const wire::Command& command : wire::kCommands) {
     if (command.method == text.substr(0, hash)) fault.method = command.method;
   }
-  return !fault.method.empty() && (hash == std::string_view::npos ||
-                                   parseNumber(text.substr(hash + 1), 1U, ~0U, fault.first));
+  if (hash == std::string_view::npos) return !fault.method.empty();
+  const auto first = tools::parseNumber(text.substr(hash + 1), 1U, kMaxCount);
+  fault.first = first.value_or(0);
+  return first && !fault.method.empty();
 }
 
 Bytes joined(const std::vector<Bytes>& frames) {
@@ -100,16 +97,17 @@ std::optional<Fault> parseFault(std::string_view text) {
   if (kind == std::end(kKinds)) return std::nullopt;
 
   Fault fault{kind->kind, kind->value};
-  if (equals != std::string_view::npos &&
-      !parseNumber(head.substr(equals + 1), 1, kind->maxValue, fault.value)) {
-    return std::nullopt;
+  if (equals != std::string_view::npos) {
+    const auto value = tools::parseNumber(head.substr(equals + 1), 1, kind->maxValue);
+    if (!value) return std::nullopt;
+    fault.value = *value;
   }
   if (at != std::string_view::npos && !parseTarget(text.substr(0, colon).substr(at + 1), fault)) {
     return std::nullopt;
   }
-  if (colon != std::string_view::npos &&
-      !parseNumber(text.substr(colon + 1), 1U, ~0U, fault.count.emplace())) {
-    return std::nullopt;
+  if (colon != std::string_view::npos) {
+    fault.count = tools::parseNumber(text.substr(colon + 1), 1U, kMaxCount);
+    if (!fault.count) return std::nullopt;
   }
   return fault;
 }

@@ -56,8 +56,9 @@ Answer setDeviceSecretParam(const Request& request) {
     security.key = ciphered ? Key{kModes[mode], tail->key} : Key{};
     security.label = textOf(rest.first(length));
     security.secondKey = tail->secondKey;
-    return request.accept(inQuotes(security.label) + ", " + std::string(cipherName(kModes[mode])) +
-                          " " + onOff(payload[1] == 1));
+    return request.accept(inQuotes(security.label) + ", " +
+                          std::string(tools::cipherName(kModes[mode])) + " " +
+                          onOff(payload[1] == 1));
   }
   return request.refuse();
 }
@@ -67,7 +68,7 @@ Answer setDeviceKey(const Request& request) {
   Security& security = request.state.security;
   const bool ciphered = security.key.cipher != Cipher::None;
   (ciphered ? security.key.text : security.deviceKey) = textOf(request.payload);
-  return request.accept(ciphered ? "for " + std::string(cipherName(security.key.cipher))
+  return request.accept(ciphered ? "for " + std::string(tools::cipherName(security.key.cipher))
                                  : "unused in plain mode");
 }
 

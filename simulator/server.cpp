@@ -60,9 +60,14 @@ bool Simulator::openSockets() {
   }
   const Endpoint& endpoint = mOptions.dial ? *mOptions.dial : mOptions.listen;
   const std::string what = mOptions.dial ? "cannot reach a host at " : "cannot listen on ";
-  const bool opened = mOptions.dial ? dial(endpoint.address, endpoint.port)
-                                    : listen(endpoint.address, endpoint.port);
-  if (!opened) fail(what + endpointText(endpoint));
+  const auto address = tools::addressOf(endpoint.host);
+  if (!address) {
+    mError = what + tools::endpointText(endpoint) + ": " + tools::kNoSuchHost;
+    return false;
+  }
+  const bool opened =
+      mOptions.dial ? dial(*address, endpoint.port) : listen(*address, endpoint.port);
+  if (!opened) fail(what + tools::endpointText(endpoint));
   return opened;
 }
 

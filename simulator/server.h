@@ -17,12 +17,14 @@
 #include "platform/sockets.h"
 #include "simulator/cipher.h"
 #include "simulator/controller.h"
-#include "simulator/endpoint.h"
 #include "simulator/exchange.h"
 #include "simulator/faults.h"
 #include "simulator/wake_up.h"
+#include "tools/endpoint.h"
 
 namespace tovi::sim {
+
+using tools::Endpoint;
 
 struct Options {
   Endpoint listen{"127.0.0.1", 0};  // port 0: the system chooses

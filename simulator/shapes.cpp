@@ -1,5 +1,7 @@
 #include "simulator/shapes.h"
 
+#include "tools/printable.h"
+
 namespace tovi::sim {
 namespace {
 
@@ -10,9 +12,9 @@ constexpr std::size_t kTextShown = 60;
 std::string onOff(bool on) { return on ? "on" : "off"; }
 
 std::string inQuotes(std::string_view text) {
-  if (text.size() <= kTextShown) return '"' + printable(text) + '"';
-  return '"' + printable(text.substr(0, kTextShown)) + "\"... (" + std::to_string(text.size()) +
-         " bytes)";
+  if (text.size() <= kTextShown) return '"' + tools::printable(text) + '"';
+  return '"' + tools::printable(text.substr(0, kTextShown)) + "\"... (" +
+         std::to_string(text.size()) + " bytes)";
 }
 
 void appendLowFirst(Bytes& bytes, std::uint64_t value, int size) {

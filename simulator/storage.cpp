@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/paths.h"
+#include "tools/printable.h"
 
 namespace tovi::sim {
 namespace {
@@ -20,7 +21,7 @@ const char* chars(View bytes) { return reinterpret_cast<const char*>(bytes.data(
 
 bool isPlainName(std::string_view name) {
   return !name.empty() && name.size() <= kMaxName && name != "." && name != ".." &&
-         name.find_first_of("/\\:") == std::string_view::npos && printable(name) == name;
+         name.find_first_of("/\\:") == std::string_view::npos && tools::printable(name) == name;
 }
 
 Storage::Storage(Options options) : mOptions(std::move(options)) {

@@ -456,6 +456,28 @@ TEST_F(Cli, RunsOnManyControllers) {
   EXPECT_EQ(controllers, (std::vector{first, dead, second}));
 }
 
+TEST_F(Cli, FindsControllersByName) {
+  const std::string address = addressOf(startController());
+  const std::string named = "LocalHost" + address.substr(address.find(':'));
+  EXPECT_EQ(run(named + " get-sn").out, "SIM0000000001\n");
+
+  const Outcome lost = run("x.invalid:5005 --json get-sn");
+  EXPECT_EQ(lost.status, 1);
+  EXPECT_EQ(lost.out,
+            "{\"controller\":\"x.invalid:5005\",\"done\":false,\"outcome\":\"no such host\"}\n");
+  EXPECT_EQ(lost.err, "tovi: x.invalid:5005 get-sn: no such host\n");
+
+  const std::string hosts = file("hosts", "x.invalid:5005\n" + named + "\n" + address + "\n");
+  const Outcome mixed = run("--hosts " + hosts + " set-brightness 80");
+  EXPECT_EQ(mixed.status, 1);
+  EXPECT_EQ(mixed.out, "x.invalid:5005  no such host\n" + named + "  done\n" + address +
+                           "  done\n2 done, 1 failed\n");
+
+  const Outcome nowhere = run("listen x.invalid:0 get-sn");
+  EXPECT_EQ(nowhere.status, 1);
+  EXPECT_EQ(nowhere.err, "tovi: cannot wait on x.invalid:0: no such host\n");
+}
+
 TEST_F(Cli, KeepsThePicturesOfManyControllersApart) {
   sim::Options options;
   options.state.display.screenshotSize = 70'000;
@@ -472,10 +494,10 @@ TEST_F(Cli, KeepsThePicturesOfManyControllersApart) {
 
 TEST_F(Cli, RunsOnAControllerThatDialsIn) {
   auto outcome = std::async(std::launch::async, [this] {
-    return run("listen 127.0.0.1:0 --wait 20000 set-device-name dialled");
+    return run("listen localhost:0 --wait 20000 set-device-name dialled");
   });
   // The port stands at the end of the line that says that it is open.
-  const std::string beginning = "tovi: waiting for a controller on 127.0.0.1:";
+  const std::string beginning = "tovi: waiting for a controller on localhost:";
   std::string line;
   while (!line.ends_with('\n') &&
          outcome.wait_for(std::chrono::milliseconds(1)) == std::future_status::timeout) {

@@ -90,21 +90,6 @@ TEST_F(ControllerTest, ChangesNothingWhenToldToRefuse) {
   EXPECT_TRUE(mController.refuse({0x00, {0}}).replies.empty());
 }
 
-TEST(SimPrintable, KeepsStrangersOffTheTerminal) {
-  const std::pair<std::string_view, std::string_view> texts[] = {
-      {"Gate 7 \xE8\xB7\xAF\xF0\x9F\x9A\xA6", "Gate 7 \xE8\xB7\xAF\xF0\x9F\x9A\xA6"},
-      {"\x1B[2J\n\x7F", "\\x1B[2J\\x0A\\x7F"},
-      {"\xC2\x9B"
-       "31m",
-       "\\xC2\\x9B31m"},                                      // a control character in UTF-8
-      {"\xC3\xFB\xB5", "\\xC3\\xFB\\xB5"},                    // another encoding
-      {"\xE8\xB7", "\\xE8\\xB7"},                             // cut
-      {"\xC0\x8A\xE0\x80\x8A", "\\xC0\\x8A\\xE0\\x80\\x8A"},  // a line feed the long way round
-      {"\xED\xA0\x80\xF4\x90\x80\x80", "\\xED\\xA0\\x80\\xF4\\x90\\x80\\x80"},
-  };
-  for (const auto& [text, shown] : texts) EXPECT_EQ(printable(text), shown);
-}
-
 Exchange exchangeOf(std::string_view frame, const Key& key, std::vector<Fault> faults = {}) {
   FrameReader reader;
   Controller controller;
