@@ -60,7 +60,7 @@ Answer removeWhitelist(const Request& request) {
 }
 
 Answer getWhitelist(const Request& request) {
-  return tellText(request, jsonArray(request.state.network.whitelist));
+  return tellJson(request, request.state.network.whitelist);
 }
 
 constexpr Row kRows[] = {

@@ -28,10 +28,10 @@ std::vector<std::string> namesOf(const Storage& files, Kind kind) {
 Answer tellNames(const Request& request, std::vector<std::string> names) {
   std::size_t size = 0;
   std::size_t listed = 0;
-  while (listed < names.size() && size < kMaxListed) size += jsonString(names[listed++]).size() + 1;
+  while (listed < names.size() && size < kMaxListed) size += jsonText(names[listed++]).size() + 1;
   const std::size_t all = names.size();
   names.resize(listed);
-  Answer answer = tellText(request, jsonArray(names));
+  Answer answer = tellJson(request, names);
   answer.told = std::to_string(all) + " names";
   return answer;
 }

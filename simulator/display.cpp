@@ -15,61 +15,55 @@ constexpr std::size_t kMaxFont = 1024;
 constexpr std::string_view kVideoSources[] = {"internal", "hdmi1", "hdmi2", "dvi"};
 constexpr int kLastVideoSource = static_cast<int>(std::size(kVideoSources)) - 1;
 
-std::string modeText(int width, int height, int rate) {
-  return std::to_string(width) + "x" + std::to_string(height) + " at " + std::to_string(rate);
+// What two commands set alike, but for the name of the rate.
+std::optional<Display::Mode> readMode(const Json& members, std::string_view rateName) {
+  const auto width = jsonNumber(members, "width", 1, kLongestSide);
+  const auto height = jsonNumber(members, "height", 1, kLongestSide);
+  const auto rate = jsonNumber(members, rateName, 1, kFastestRate);
+  if (!width || !height || !rate) return std::nullopt;
+  return Display::Mode{*width, *height, *rate};
+}
+
+std::string modeText(const Display::Mode& mode) {
+  return std::to_string(mode.width) + "x" + std::to_string(mode.height) + " at " +
+         std::to_string(mode.rate);
+}
+
+Answer setMode(const Request& request, Display::Mode& mode,
+               const std::optional<Display::Mode>& wanted) {
+  if (!wanted) return request.refuse(inQuotes(textOf(request.payload)));
+  mode = *wanted;
+  return request.accept(modeText(mode));
 }
 
 Answer setCustomResolution(const Request& request) {
-  const auto members = jsonMembers(textOf(request.payload));
+  const auto members = jsonObject(request.payload);
   if (!members) return request.refuse();
-  const auto width = jsonNumber(*members, "width", 1, kLongestSide);
-  const auto height = jsonNumber(*members, "height", 1, kLongestSide);
-  const auto rate = jsonNumber(*members, "refreshRate", 1, kFastestRate);
-  if (!jsonNumber(*members, "displayMode", 1, 1) || !width || !height || !rate) {
-    return request.refuse(inQuotes(textOf(request.payload)));
-  }
-  Display& display = request.state.display;
-  display.width = *width;
-  display.height = *height;
-  display.refreshRate = *rate;
-  return request.accept(modeText(*width, *height, *rate));
+  const bool custom = jsonNumber(*members, "displayMode", 1, 1).has_value();
+  return setMode(request, request.state.display.mode,
+                 custom ? readMode(*members, "refreshRate") : std::nullopt);
 }
 
 Answer getCurrentResolution(const Request& request) {
-  const Display& display = request.state.display;
-  return tellText(request, R"({"value":")" + std::to_string(display.width) + "x" +
-                               std::to_string(display.height) + R"("})");
-}
-
-Answer getDeviceSize(const Request& request) {
-  const Display& display = request.state.display;
-  Bytes reply;
-  appendLowFirst(reply, static_cast<unsigned>(display.width), 2);
-  appendLowFirst(reply, static_cast<unsigned>(display.height), 2);
-  return request.tell(std::to_string(display.width) + " x " + std::to_string(display.height),
-                      std::move(reply));
+  const Display::Mode& mode = request.state.display.mode;
+  return tellJson(request,
+                  {{"value", std::to_string(mode.width) + "x" + std::to_string(mode.height)}});
 }
 
 Answer setEdidInfo(const Request& request) {
-  const auto members = jsonMembers(textOf(request.payload));
+  const auto members = jsonObject(request.payload);
   if (!members) return request.refuse();
-  const auto width = jsonNumber(*members, "width", 1, kLongestSide);
-  const auto height = jsonNumber(*members, "height", 1, kLongestSide);
-  const auto rate = jsonNumber(*members, "fieldRate", 1, kFastestRate);
-  if (!width || !height || !rate) return request.refuse(inQuotes(textOf(request.payload)));
-  request.state.display.edid = {*width, *height, *rate};
-  return request.accept(modeText(*width, *height, *rate));
+  return setMode(request, request.state.display.edid, readMode(*members, "fieldRate"));
 }
 
 Answer getEdidInfo(const Request& request) {
-  const Display::Edid& edid = request.state.display.edid;
-  return tellText(request, R"({"width":)" + std::to_string(edid.width) + R"(,"height":)" +
-                               std::to_string(edid.height) + R"(,"fieldRate":)" +
-                               std::to_string(edid.fieldRate) + "}");
+  const Display::Mode& edid = request.state.display.edid;
+  return tellJson(request,
+                  {{"width", edid.width}, {"height", edid.height}, {"fieldRate", edid.rate}});
 }
 
 Answer setVideoControlInfo(const Request& request) {
-  const auto members = jsonMembers(textOf(request.payload));
+  const auto members = jsonObject(request.payload);
   if (!members) return request.refuse();
   const auto source = jsonNumber(*members, "videoSource", 0, kLastVideoSource);
   if (!source) return request.refuse(inQuotes(textOf(request.payload)));
@@ -79,17 +73,24 @@ Answer setVideoControlInfo(const Request& request) {
 }
 
 Answer getVideoControlInfo(const Request& request) {
-  return tellText(request,
-                  R"({"videoSource":)" + std::to_string(request.state.display.videoSource) + "}");
+  return tellJson(request, {{"videoSource", request.state.display.videoSource}});
 }
 
 Answer getSupportVideoSource(const Request& request) {
-  std::string text = "[";
-  for (int source = 0; source <= kLastVideoSource; ++source) {
-    text += (source > 0 ? "," : "") + std::string(R"({"id":)") + std::to_string(source) +
-            R"(,"name":)" + jsonString(kVideoSources[source]) + "}";
+  Json sources = Json::array();
+  for (const std::string_view name : kVideoSources) {
+    sources.push_back({{"id", sources.size()}, {"name", name}});
   }
-  return tellText(request, text + "]");
+  return tellJson(request, sources);
+}
+
+Answer getDeviceSize(const Request& request) {
+  const Display::Mode& mode = request.state.display.mode;
+  Bytes reply;
+  appendLowFirst(reply, static_cast<unsigned>(mode.width), 2);
+  appendLowFirst(reply, static_cast<unsigned>(mode.height), 2);
+  return request.tell(std::to_string(mode.width) + " x " + std::to_string(mode.height),
+                      std::move(reply));
 }
 
 std::string flagsText(const std::array<bool, 3>& flags) {
@@ -120,8 +121,8 @@ Answer getSyncPlay(const Request& request) {
 Answer setFont(const Request& request) { return setText(request, request.state.display.font); }
 
 Answer getFontList(const Request& request) {
-  return tellText(request, R"({"current":)" + jsonString(request.state.display.font) +
-                               R"(,"fonts":["Sans","Serif","Mono"]})");
+  return tellJson(request, {{"current", request.state.display.font},
+                            {"fonts", Json::array({"Sans", "Serif", "Mono"})}});
 }
 
 constexpr Row kRows[] = {

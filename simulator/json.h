@@ -1,27 +1,30 @@
-// The little JSON that commands carry.
+// The JSON that commands carry, in requests and in replies.
 #pragma once
 
-#include <map>
+#include <nlohmann/json.hpp>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
+#include "simulator/handlers.h"
+
 namespace tovi::sim {
 
-// A text as a JSON string, quotation marks included.
-std::string jsonString(std::string_view text);
+// Members stay in the order in which they were put in.
+using Json = nlohmann::ordered_json;
 
-std::string jsonArray(std::span<const std::string> texts);
+// On one line. Texts keep their bytes, whatever their encoding: one that is no UTF-8 is told as it
+// was given.
+std::string jsonText(const Json& value);
 
-using JsonMembers = std::map<std::string, std::string, std::less<>>;
+// A query's result, told as any text is.
+Answer tellJson(const Request& request, const Json& value);
 
-// The members of an object whose values are strings without escapes or whole numbers, as texts.
-// Nothing for any other text.
-std::optional<JsonMembers> jsonMembers(std::string_view text);
+// The object that a request holds; nothing for any other text.
+std::optional<Json> jsonObject(View payload);
 
-// A member that is a whole number of at least the smallest and at most the largest.
-std::optional<int> jsonNumber(const JsonMembers& members, std::string_view name, int smallest,
-                              int largest);
+// A member that is a whole number, in digits or as a text of them, of at least the smallest and at
+// most the largest.
+std::optional<int> jsonNumber(const Json& object, std::string_view name, int smallest, int largest);
 
 }  // namespace tovi::sim

@@ -14,9 +14,10 @@ constexpr std::size_t kMaxLora = 4096;
 constexpr std::uint16_t kShortestInterval = 60;
 
 Answer getWifiList(const Request& request) {
-  return tellText(request, R"({"connected":)" + jsonString(request.state.network.wifiConnection) +
-                               R"(,"networks":[{"ssid":"workshop","signal":-51},)"
-                               R"({"ssid":"roadside","signal":-74}]})");
+  const Json networks = Json::array(
+      {Json{{"ssid", "workshop"}, {"signal", -51}}, Json{{"ssid", "roadside"}, {"signal", -74}}});
+  return tellJson(request,
+                  {{"connected", request.state.network.wifiConnection}, {"networks", networks}});
 }
 
 std::string linkText(const Network::VirtualConnection& link) {
@@ -47,12 +48,11 @@ Answer switchToSoftsim(const Request& request) {
 }
 
 Answer getSimInfo(const Request& request) {
-  return tellText(request,
-                  request.state.network.softSim ? R"({"sim":"soft"})" : R"({"sim":"card"})");
+  return tellJson(request, {{"sim", request.state.network.softSim ? "soft" : "card"}});
 }
 
 Answer getMobileInfo(const Request& request) {
-  return tellText(request, R"({"operator":"simulated","network":"4G","signal":-67})");
+  return tellJson(request, {{"operator", "simulated"}, {"network", "4G"}, {"signal", -67}});
 }
 
 constexpr Row kRows[] = {

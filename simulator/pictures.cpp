@@ -44,8 +44,8 @@ Bytes greyPicture(int width, int height, std::uint8_t grey) {
 
 // A display of very many pixels is shown smaller, as a real one sends a preview.
 Bytes screenPicture(const State& state) {
-  int width = state.display.width;
-  int height = state.display.height;
+  int width = state.display.mode.width;
+  int height = state.display.mode.height;
   while (width > kMostPixels / height) {
     width = std::max(width / 2, 1);
     height = std::max(height / 2, 1);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "simulator/json.h"
 #include "simulator/shapes.h"
 
 namespace tovi::sim {

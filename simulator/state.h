@@ -37,14 +37,13 @@ struct Timetables {
 };
 
 struct Display {
-  int width = 256;
-  int height = 128;
-  int refreshRate = 60;
-  struct Edid {
+  struct Mode {
     int width = 256;
     int height = 128;
-    int fieldRate = 60;
-  } edid;
+    int rate = 60;
+  };
+  Mode mode;
+  Mode edid;
   int videoSource = 0;
   std::array<bool, 3> antiAliasing{};
   bool syncPlay = false;

@@ -25,30 +25,29 @@ Answer getDeviceMemorySize(const Request& request) {
                       std::move(reply));
 }
 
+std::string megabytes(std::uint64_t bytes) { return std::to_string(bytes / kMegabyte) + "MB"; }
+
 Answer getCpuAndMemoryInfo(const Request& request) {
-  const auto megabytes = [](std::uint64_t bytes) {
-    return jsonString(std::to_string(bytes / kMegabyte) + "MB");
-  };
-  return tellText(request, R"({"cpuUsage":"7%","diskTotal":)" +
-                               megabytes(request.files.capacity()) + R"(,"diskFree":)" +
-                               megabytes(freeBytes(request.files)) + "}");
+  return tellJson(request, {{"cpuUsage", "7%"},
+                            {"diskTotal", megabytes(request.files.capacity())},
+                            {"diskFree", megabytes(freeBytes(request.files))}});
 }
 
 Answer getSystemInfo(const Request& request) {
   const State& state = request.state;
-  return tellText(request, R"({"name":)" + jsonString(state.name) + R"(,"version":)" +
-                               jsonString(state.version) + R"(,"serial":)" +
-                               jsonString(state.serial) + R"(,"restarts":)" +
-                               std::to_string(state.restarts) + R"(,"apps":)" +
-                               jsonArray(state.maintenance.apps) + "}");
+  return tellJson(request, {{"name", state.name},
+                            {"version", state.version},
+                            {"serial", state.serial},
+                            {"restarts", state.restarts},
+                            {"apps", state.maintenance.apps}});
 }
 
 Answer getSurveil(const Request& request) {
   const State& state = request.state;
-  return tellText(request, R"({"temperature":)" + std::to_string(state.temperature) +
-                               R"(,"humidity":40,"environmentBrightness":)" +
-                               std::to_string(state.environmentBrightness) + R"(,"doorOpen":)" +
-                               (state.boxDoorOpen ? "true" : "false") + "}");
+  return tellJson(request, {{"temperature", state.temperature},
+                            {"humidity", 40},
+                            {"environmentBrightness", state.environmentBrightness},
+                            {"doorOpen", state.boxDoorOpen}});
 }
 
 Answer getLogZipPath(const Request& request) { return tellText(request, "/log/tovisim.zip"); }

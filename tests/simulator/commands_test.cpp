@@ -251,6 +251,12 @@ const Talk kTalks[] = {
        "C2: " + told(R"({"name":"tovisim","version":"SIM-1.0.0",)"
                      R"("serial":"SIM0000000001","restarts":0,)"
                      R"("apps":["player","settings"]})")},
+      // Neither UTF-8 nor printable.
+      {0x7E, "00 C3 FB 0A 1B 22 7F", "7F: 01"},
+      {0xC2, "",
+       "C2: " + told("{\"name\":\"\xC3\xFB\\u000A\\u001B\\\"\x7F\",\"version\":\"SIM-1.0.0\","
+                     R"("serial":"SIM0000000001","restarts":0,)"
+                     R"("apps":["player","settings"]})")},
       {0xA0, "",
        "A0: " + told(R"({"temperature":25,"humidity":40,)"
                      R"("environmentBrightness":120,"doorOpen":false})")},

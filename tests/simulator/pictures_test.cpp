@@ -26,8 +26,8 @@ class PicturesTest : public testing::Test, protected AskedController {
 
 TEST_F(PicturesTest, ShowTheDisplayInTheGreyOfItsBrightness) {
   mController.change([](State& state) {
-    state.display.width = 5;
-    state.display.height = 2;
+    state.display.mode.width = 5;
+    state.display.mode.height = 2;
   });
   EXPECT_EQ(takeScreenshot(), std::vector<std::size_t>{2 + 1094});
   const View picture = mPicture;
@@ -63,8 +63,8 @@ TEST_F(PicturesTest, ComeInPiecesTheLastOfWhichIsNotFull) {
 
 TEST_F(PicturesTest, OfHugeDisplaysAreSmaller) {
   mController.change([](State& state) {
-    state.display.width = 16384;
-    state.display.height = 1000;
+    state.display.mode.width = 16384;
+    state.display.mode.height = 1000;
   });
   takeScreenshot();
   EXPECT_EQ(hex(View(mPicture).subspan(18, 8)), "00 10 00 00 FA 00 00 00");  // 4096 x 250
