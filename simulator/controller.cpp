@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "simulator/files.h"
 #include "simulator/handlers.h"
-#include "simulator/transfers.h"
 
 namespace tovi::sim {
 namespace {
@@ -17,9 +17,9 @@ struct Found {
 
 using Rows = std::span<const Row> (*)();
 constexpr Rows kThemes[] = {
-    screenRows,      identityRows, powerRows,    timetableRows, displayRows,
-    pictureRows,     networkRows,  addressRows,  clockRows,     securityRows,
-    maintenanceRows, textRows,     transferRows, playlistRows,  contentRows,
+    powerRows,      brightnessRows, timetableRows, clockRows,    displayRows,
+    nowPlayingRows, identityRows,   networkRows,   wirelessRows, maintenanceRows,
+    secureModeRows, fileRows,       playlistRows,  updateRows,   screenshotRows,
 };
 
 Found find(const Message& request) {

@@ -1,4 +1,5 @@
-// The output: resolution, video source, EDID, anti-aliasing, fonts. Settings in JSON go both ways.
+// The output: resolution, EDID, video source, anti-aliasing, pre-stored screen, fonts, broken
+// pixels. Settings in JSON go both ways.
 #include "simulator/json.h"
 #include "simulator/shapes.h"
 
@@ -11,6 +12,9 @@ constexpr int kLongestSide = 16'384;
 constexpr int kFastestRate = 1000;
 constexpr std::size_t kMaxJson = 4096;
 constexpr std::size_t kMaxFont = 1024;
+
+// Small enough that a few dozen pixels take several parts.
+constexpr std::size_t kPixelPart = 256;
 
 constexpr std::string_view kVideoSources[] = {"internal", "hdmi1", "hdmi2", "dvi"};
 constexpr int kLastVideoSource = static_cast<int>(std::size(kVideoSources)) - 1;
@@ -118,6 +122,17 @@ Answer getSyncPlay(const Request& request) {
   return request.tell(onOff(on), {1, byteOf(on)});
 }
 
+Answer setPreStoredScreenEnabled(const Request& request) {
+  if (request.payload[1] > 1) return request.refuse();
+  request.state.display.preStoredScreen = request.payload[1] == 1;
+  return request.tell("accepted, " + onOff(request.payload[1] == 1), {kDo, 1});
+}
+
+Answer getPreStoredScreenEnabled(const Request& request) {
+  const bool on = request.state.display.preStoredScreen;
+  return request.tell(onOff(on), {kAsk, 1, byteOf(on)});
+}
+
 Answer setFont(const Request& request) { return setText(request, request.state.display.font); }
 
 Answer getFontList(const Request& request) {
@@ -125,21 +140,58 @@ Answer getFontList(const Request& request) {
                             {"fonts", Json::array({"Sans", "Serif", "Mono"})}});
 }
 
+std::string badPixelsText(const Display& display) {
+  return std::to_string(display.badPixels.size()) + " broken pixels";
+}
+
+Answer startScreenPointDetect(const Request& request) {
+  Display& display = request.state.display;
+  display.pixelsTested = true;
+  Bytes reply{1};
+  appendLowFirst(reply, display.badPixels.size(), 4);
+  return request.tell(badPixelsText(display), std::move(reply));
+}
+
+// First how many parts there are, then the parts: "x,y;x,y".
+Answer getDetectErrorPointData(const Request& request) {
+  const Display& display = request.state.display;
+  if (!display.pixelsTested) return request.refuse("not tested yet");
+  std::string text;
+  for (const auto& [x, y] : display.badPixels) {
+    text += (text.empty() ? "" : ";") + std::to_string(x) + "," + std::to_string(y);
+  }
+  Bytes announced{1};
+  appendLowFirst(announced, (text.size() + kPixelPart - 1) / kPixelPart, 2);
+  Answer answer = request.tell(badPixelsText(display), std::move(announced));
+  for (std::size_t at = 0; at < text.size(); at += kPixelPart) {
+    answer.replies.push_back({request.row.command.reply, bytesOf(text.substr(at, kPixelPart))});
+  }
+  return answer;
+}
+
+Bytes refusedPixels(View) { return {0, 0, 0}; }
+
 constexpr Row kRows[] = {
     {command("setCustomResolution"), setCustomResolution, atMost(kMaxJson)},
     {command("getCurrentResolution"), getCurrentResolution},
-    {command("getDeviceSize"), getDeviceSize},
     {command("setEdidInfo"), setEdidInfo, atMost(kMaxJson)},
     {command("getEdidInfo"), getEdidInfo},
     {command("setVideoControlInfo"), setVideoControlInfo, atMost(kMaxJson)},
     {command("getVideoControlInfo"), getVideoControlInfo},
     {command("getSupportVideoSource"), getSupportVideoSource},
+    {command("getDeviceSize"), getDeviceSize},
     {command("setAntiAliasing"), setAntiAliasing, exactly(3)},
     {command("getAntiAliasing"), getAntiAliasing},
     {command("setSyncPlay"), setSyncPlay, exactly(1)},
     {command("getSyncPlay"), getSyncPlay},
+    {command("setPreStoredScreenEnabled"), setPreStoredScreenEnabled, exactly(2), beginsWith<kDo>,
+     refuseBehindSwitch},
+    {command("getPreStoredScreenEnabled"), getPreStoredScreenEnabled, exactly(1), beginsWith<kAsk>,
+     refuseBehindSwitch},
     {command("setFont"), setFont, {1, kMaxFont}},
     {command("getFontList"), getFontList},
+    {command("startScreenPointDetect"), startScreenPointDetect},
+    {command("getDetectErrorPointData"), getDetectErrorPointData, {}, nullptr, refusedPixels},
 };
 
 }  // namespace

@@ -63,20 +63,21 @@ struct Request {
 
 Answer refusalOf(const Row& row, View payload, std::string asked);
 
-std::span<const Row> screenRows();
-std::span<const Row> identityRows();
+// One theme after another, in files of the same names.
 std::span<const Row> powerRows();
+std::span<const Row> brightnessRows();
 std::span<const Row> timetableRows();
-std::span<const Row> displayRows();
-std::span<const Row> pictureRows();
-std::span<const Row> networkRows();
-std::span<const Row> addressRows();
 std::span<const Row> clockRows();
-std::span<const Row> securityRows();
+std::span<const Row> displayRows();
+std::span<const Row> nowPlayingRows();
+std::span<const Row> identityRows();
+std::span<const Row> networkRows();
+std::span<const Row> wirelessRows();
 std::span<const Row> maintenanceRows();
-std::span<const Row> textRows();
-std::span<const Row> transferRows();
+std::span<const Row> secureModeRows();
+std::span<const Row> fileRows();
 std::span<const Row> playlistRows();
-std::span<const Row> contentRows();
+std::span<const Row> updateRows();
+std::span<const Row> screenshotRows();
 
 }  // namespace tovi::sim

@@ -1,6 +1,5 @@
-// What service staff use: SSH, backups, the pre-stored screen, caches, apps, sensors, RDS.
-#include <algorithm>
-
+// What service staff use: restart, the temperature that turns the screen off, backups, SSH, logs,
+// sensors, apps, caches.
 #include "simulator/shapes.h"
 
 namespace tovi::sim {
@@ -8,25 +7,35 @@ namespace {
 
 using wire::command;
 
-constexpr std::size_t kMaxApp = 256;
+constexpr std::uint8_t kHighestCloseTemperature = 150;
 constexpr std::size_t kMaxSensors = 4096;
-constexpr std::size_t kMaxRoad = 32;
+constexpr std::size_t kMaxApp = 256;
 
-// Commands with a switch in front of the payload: 1 does something, 0 asks. The reply repeats it.
-constexpr std::uint8_t kAsk = 0;
-constexpr std::uint8_t kDo = 1;
-
-Bytes refuseBehindSwitch(View payload) { return {payload.empty() ? kAsk : payload[0], 0}; }
-
-Answer setSSHEnabled(const Request& request) {
-  if (request.payload[1] > 1) return request.refuse();
-  request.state.maintenance.ssh = request.payload[1] == 1;
-  return request.accept(onOff(request.state.maintenance.ssh));
+Answer restartDevice(const Request& request) {
+  ++request.state.restarts;
+  return request.accept();
 }
 
-Answer getSSHEnabled(const Request& request) {
-  const bool on = request.state.maintenance.ssh;
-  return request.tell(onOff(on), {kAsk, byteOf(on)});
+Answer sendHeartBeat(const Request& request) {
+  ++request.state.heartBeats;
+  return request.keepQuiet();
+}
+
+Answer setCloseScreenTemperature(const Request& request) {
+  const std::uint8_t degrees = request.payload[5];
+  if (degrees > kHighestCloseTemperature) return request.refuse();
+  request.state.maintenance.closeTemperature = degrees;
+  return request.accept(std::to_string(degrees) + " degrees");
+}
+
+Answer getCloseScreenTemperature(const Request& request) {
+  const std::uint8_t degrees = request.state.maintenance.closeTemperature;
+  return request.tell(std::to_string(degrees) + " degrees", {0, 0, 0, 0, 0, degrees});
+}
+
+Answer solidify(const Request& request) {
+  request.state.maintenance.solidified = request.payload[0];
+  return request.accept(std::to_string(request.payload[0]));
 }
 
 Answer backups(const Request& request) {
@@ -42,33 +51,18 @@ Answer getBackupsTimes(const Request& request) {
   return request.tell(backup ? "made at " + std::to_string(*backup) : "none", std::move(reply));
 }
 
-Answer setPreStoredScreenEnabled(const Request& request) {
+Answer setSSHEnabled(const Request& request) {
   if (request.payload[1] > 1) return request.refuse();
-  request.state.display.preStoredScreen = request.payload[1] == 1;
-  return request.tell("accepted, " + onOff(request.payload[1] == 1), {kDo, 1});
+  request.state.maintenance.ssh = request.payload[1] == 1;
+  return request.accept(onOff(request.state.maintenance.ssh));
 }
 
-Answer getPreStoredScreenEnabled(const Request& request) {
-  const bool on = request.state.display.preStoredScreen;
-  return request.tell(onOff(on), {kAsk, 1, byteOf(on)});
+Answer getSSHEnabled(const Request& request) {
+  const bool on = request.state.maintenance.ssh;
+  return request.tell(onOff(on), {kAsk, byteOf(on)});
 }
 
-Answer solidify(const Request& request) {
-  request.state.maintenance.solidified = request.payload[0];
-  return request.accept(std::to_string(request.payload[0]));
-}
-
-Answer clearCache(const Request& request) {
-  ++request.state.maintenance.cachesCleared;
-  return request.accept();
-}
-
-Answer removeAppPageName(const Request& request) {
-  const std::string name = textOf(request.payload);
-  const bool installed = std::erase(request.state.maintenance.apps, name) > 0;
-  return installed ? request.accept(inQuotes(name))
-                   : request.refuse(inQuotes(name) + " is not installed");
-}
+Answer getLogZipPath(const Request& request) { return tellText(request, "/log/tovisim.zip"); }
 
 Answer setSensorInfo(const Request& request) {
   return setText(request, request.state.maintenance.sensors);
@@ -78,43 +72,33 @@ Answer getSensorInfo(const Request& request) {
   return tellText(request, request.state.maintenance.sensors);
 }
 
-std::string digitsText(View digits) {
-  std::string text;
-  for (const std::uint8_t digit : digits) text += static_cast<char>('0' + digit);
-  return text;
+Answer removeAppPageName(const Request& request) {
+  const std::string name = textOf(request.payload);
+  const bool installed = std::erase(request.state.maintenance.apps, name) > 0;
+  return installed ? request.accept(inQuotes(name))
+                   : request.refuse(inQuotes(name) + " is not installed");
 }
 
-Answer setRDSRoad(const Request& request) {
-  const View digits = request.payload;
-  if (std::any_of(digits.begin(), digits.end(), [](auto digit) { return digit > 9; })) {
-    return request.refuse();
-  }
-  request.state.maintenance.rdsRoad.assign(digits.begin(), digits.end());
-  return request.accept(digitsText(digits));
-}
-
-Answer getRDSRoad(const Request& request) {
-  if (request.payload[0] != 1) return request.refuse();
-  const Bytes& digits = request.state.maintenance.rdsRoad;
-  return request.tell(digitsText(digits), digits);
+Answer clearCache(const Request& request) {
+  ++request.state.maintenance.cachesCleared;
+  return request.accept();
 }
 
 constexpr Row kRows[] = {
-    {command("setSSHEnabled"), setSSHEnabled, exactly(2), beginsWith<kDo>},
-    {command("getSSHEnabled"), getSSHEnabled, exactly(1), beginsWith<kAsk>},
+    {command("restartDevice"), restartDevice},
+    {command("sendHeartBeat"), sendHeartBeat, atLeast(0)},
+    {command("setCloseScreenTemperature"), setCloseScreenTemperature, exactly(6)},
+    {command("getCloseScreenTemperature"), getCloseScreenTemperature},
+    {command("solidify"), solidify, exactly(1)},
     {command("backups"), backups, exactly(1), beginsWith<kDo>, refuseBehindSwitch},
     {command("getBackupsTimes"), getBackupsTimes, exactly(1), beginsWith<kAsk>, refuseBehindSwitch},
-    {command("setPreStoredScreenEnabled"), setPreStoredScreenEnabled, exactly(2), beginsWith<kDo>,
-     refuseBehindSwitch},
-    {command("getPreStoredScreenEnabled"), getPreStoredScreenEnabled, exactly(1), beginsWith<kAsk>,
-     refuseBehindSwitch},
-    {command("solidify"), solidify, exactly(1)},
-    {command("clearCache"), clearCache},
-    {command("removeAppPageName"), removeAppPageName, {1, kMaxApp}},
+    {command("setSSHEnabled"), setSSHEnabled, exactly(2), beginsWith<kDo>},
+    {command("getSSHEnabled"), getSSHEnabled, exactly(1), beginsWith<kAsk>},
+    {command("getLogZipPath"), getLogZipPath},
     {command("setSensorInfo"), setSensorInfo, atMost(kMaxSensors)},
     {command("getSensorInfo"), getSensorInfo},
-    {command("setRDSRoad"), setRDSRoad, {1, kMaxRoad}},
-    {command("getRDSRoad"), getRDSRoad, exactly(1)},
+    {command("removeAppPageName"), removeAppPageName, {1, kMaxApp}},
+    {command("clearCache"), clearCache},
 };
 
 }  // namespace

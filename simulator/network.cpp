@@ -1,23 +1,45 @@
-// Radio and links: Wi-Fi, access point, virtual connection, LoRa, SIM card.
+// Addresses and links: the controller's own address, its virtual connection, the address it pings,
+// servers, the hosts it lets in.
 #include <algorithm>
 
 #include "simulator/json.h"
 #include "simulator/shapes.h"
+#include "tools/printable.h"
 
 namespace tovi::sim {
 namespace {
 
 using wire::command;
 
-constexpr std::size_t kMaxConfig = 1024;
-constexpr std::size_t kMaxLora = 4096;
+constexpr std::size_t kBasicSize = 26;
+constexpr std::size_t kMaxAddress = 255;
+constexpr std::size_t kMaxServers = 4096;
+constexpr std::size_t kMaxWhitelist = 100;
 constexpr std::uint16_t kShortestInterval = 60;
 
-Answer getWifiList(const Request& request) {
-  const Json networks = Json::array(
-      {Json{{"ssid", "workshop"}, {"signal", -51}}, Json{{"ssid", "roadside"}, {"signal", -74}}});
-  return tellJson(request,
-                  {{"connected", request.state.network.wifiConnection}, {"networks", networks}});
+std::string dotted(View ip) {
+  std::string text;
+  for (const std::uint8_t byte : ip) text += (text.empty() ? "" : ".") + std::to_string(byte);
+  return text;
+}
+
+std::array<std::uint8_t, 4> addressAt(View payload, std::size_t at) {
+  return {payload[at], payload[at + 1], payload[at + 2], payload[at + 3]};
+}
+
+Answer setDeviceNetBasicParam(const Request& request) {
+  const View payload = request.payload;
+  Network::Basic& basic = request.state.network.basic;
+  basic = {addressAt(payload, 0), addressAt(payload, 4), addressAt(payload, 8),
+           lowFirst(payload.subspan(12)), addressAt(payload, 14)};
+  return request.keepQuiet(dotted(basic.ip) + " mask " + dotted(basic.netmask) + " gateway " +
+                           dotted(basic.gateway) + " port " + std::to_string(basic.port) +
+                           " server " + dotted(basic.server));
+}
+
+Answer resetDeviceIpToDefault(const Request& request) {
+  request.state.network.basic = {};
+  return request.keepQuiet(dotted(request.state.network.basic.ip));
 }
 
 std::string linkText(const Network::VirtualConnection& link) {
@@ -42,35 +64,41 @@ Answer getVirtualConnection(const Request& request) {
   return request.tell(linkText(link), std::move(reply));
 }
 
-Answer switchToSoftsim(const Request& request) {
-  request.state.network.softSim = true;
-  return request.accept();
+// Listing one twice does no harm, like listing it once.
+Answer addWhitelist(const Request& request) {
+  auto& list = request.state.network.whitelist;
+  const std::string entry = textOf(request.payload);
+  if (tools::printable(entry) != entry) return request.refuse();
+  if (std::find(list.begin(), list.end(), entry) == list.end()) {
+    if (list.size() == kMaxWhitelist) return request.refuse("the list is full");
+    list.push_back(entry);
+  }
+  return request.accept(inQuotes(entry));
 }
 
-Answer getSimInfo(const Request& request) {
-  return tellJson(request, {{"sim", request.state.network.softSim ? "soft" : "card"}});
+Answer removeWhitelist(const Request& request) {
+  const std::string entry = textOf(request.payload);
+  const bool listed = std::erase(request.state.network.whitelist, entry) > 0;
+  return listed ? request.accept(inQuotes(entry))
+                : request.refuse(inQuotes(entry) + " is not listed");
 }
 
-Answer getMobileInfo(const Request& request) {
-  return tellJson(request, {{"operator", "simulated"}, {"network", "4G"}, {"signal", -67}});
+Answer getWhitelist(const Request& request) {
+  return tellJson(request, request.state.network.whitelist);
 }
 
 constexpr Row kRows[] = {
-    {command("setWifiState"), setNetworkFlag<&Network::wifi>, exactly(1)},
-    {command("getWifiState"), tellNetworkFlag<&Network::wifi>},
-    {command("connectWifi"), setNetworkText<&Network::wifiConnection>, {1, kMaxConfig}},
-    {command("getWifiList"), getWifiList},
-    {command("setWifiApState"), setNetworkFlag<&Network::accessPoint>, exactly(1)},
-    {command("getWifiApState"), tellNetworkFlag<&Network::accessPoint>},
-    {command("setWifiApConfig"), setNetworkText<&Network::accessPointConfig>, {1, kMaxConfig}},
-    {command("getWifiApConfig"), tellNetworkText<&Network::accessPointConfig>},
+    {command("setDeviceNetBasicParam"), setDeviceNetBasicParam, exactly(kBasicSize)},
+    {command("resetDeviceIpToDefault"), resetDeviceIpToDefault},
     {command("setVirtualConnection"), setVirtualConnection, exactly(4)},
     {command("getVirtualConnection"), getVirtualConnection},
-    {command("setLoraInfo"), setNetworkText<&Network::lora>, atMost(kMaxLora)},
-    {command("getLoraInfo"), tellNetworkText<&Network::lora>},
-    {command("switchToSoftsim"), switchToSoftsim},
-    {command("getSimInfo"), getSimInfo},
-    {command("getMobileInfo"), getMobileInfo},
+    {command("setPingIp"), setNetworkText<&Network::pingAddress>, {1, kMaxAddress}},
+    {command("getPingIp"), tellNetworkText<&Network::pingAddress>},
+    {command("setServerIPLists"), setNetworkText<&Network::servers>, {1, kMaxServers}},
+    {command("getServerIPLists"), tellNetworkText<&Network::servers>},
+    {command("addWhitelist"), addWhitelist, {1, kMaxAddress}},
+    {command("removeWhitelist"), removeWhitelist, {1, kMaxAddress}},
+    {command("getWhitelist"), getWhitelist},
 };
 
 }  // namespace

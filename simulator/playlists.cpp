@@ -13,11 +13,6 @@ constexpr std::string_view kPrefix = "play";
 constexpr std::string_view kSuffix = ".lst";
 constexpr std::size_t kDigits = 3;
 
-// What now-playing tells of a playlist at most, so that it fits a frame.
-constexpr std::size_t kMaxTold = 60'000;
-
-std::string playlistText(int number) { return "playlist " + std::to_string(number); }
-
 // Commands carry the low byte of a number alone, which playlists above 255 share with others. Meant
 // is the one just sent over the same connection, else the one of that very number, else the first
 // that fits.
@@ -56,36 +51,10 @@ Answer getAllPlaylistId(const Request& request) {
   return request.tell(told.empty() ? "none" : told, std::move(reply));
 }
 
-// The playlist that is playing, unless its file has gone meanwhile.
-std::optional<int> nowPlaying(const Request& request) {
-  const std::optional<int> playing = request.state.content.playing;
-  return playing && request.files.has(playlistName(*playing)) ? playing : std::nullopt;
-}
-
-Answer getNowPlayContent(const Request& request) {
-  const auto playing = nowPlaying(request);
-  if (!playing) return request.tell("nothing", {2, 0, 0});
-  Bytes reply{1, 0, static_cast<std::uint8_t>(*playing & 0xFF)};
-  const Bytes name = bytesOf(playlistName(*playing));
-  reply.insert(reply.end(), name.begin(), name.end());
-  return request.tell(playlistText(*playing), std::move(reply));
-}
-
-Answer getNowPlayAllContent(const Request& request) {
-  const auto playing = nowPlaying(request);
-  if (!playing) return request.tell("nothing", {0});
-  Bytes reply{static_cast<std::uint8_t>(*playing & 0xFF)};
-  const Bytes text = request.files.read(playlistName(*playing), kMaxTold).value_or(Bytes{});
-  reply.insert(reply.end(), text.begin(), text.end());
-  return request.tell(playlistText(*playing), std::move(reply));
-}
-
 constexpr Row kRows[] = {
     {command("playListById"), playListById, exactly(1)},
     {command("deletePlaylistById"), deletePlaylistById, exactly(1)},
     {command("getAllPlaylistId"), getAllPlaylistId},
-    {command("getNowPlayContent"), getNowPlayContent},
-    {command("getNowPlayAllContent"), getNowPlayAllContent},
 };
 
 }  // namespace
@@ -108,6 +77,8 @@ std::string playlistName(int number) {
   return std::string(kPrefix) + std::string(kDigits - digits.size(), '0') + digits +
          std::string(kSuffix);
 }
+
+std::string playlistText(int number) { return "playlist " + std::to_string(number); }
 
 std::vector<int> playlistNumbers(const Storage& files) {
   std::vector<int> numbers;

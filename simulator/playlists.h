@@ -14,6 +14,9 @@ std::optional<int> playlistNumber(std::string_view name);
 
 std::string playlistName(int number);
 
+// For people.
+std::string playlistText(int number);
+
 // Sorted.
 std::vector<int> playlistNumbers(const Storage& files);
 

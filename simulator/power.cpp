@@ -1,4 +1,4 @@
-// Power: relays, boards, and the temperature that turns the screen off.
+// Power of the screen, its boards, relays and cards.
 #include <algorithm>
 
 #include "simulator/shapes.h"
@@ -7,8 +7,6 @@ namespace tovi::sim {
 namespace {
 
 using wire::command;
-
-constexpr std::uint8_t kHighestCloseTemperature = 150;
 
 Answer setPower(const Request& request) {
   return setPowerFlags(request, {&request.state.screenPowered, &request.state.screenOpen});
@@ -53,18 +51,6 @@ Answer getScreenStatus(const Request& request) {
   return request.tell(onOff(open), {static_cast<std::uint8_t>(open ? 1 : 2)});
 }
 
-Answer setCloseScreenTemperature(const Request& request) {
-  const std::uint8_t degrees = request.payload[5];
-  if (degrees > kHighestCloseTemperature) return request.refuse();
-  request.state.power.closeTemperature = degrees;
-  return request.accept(std::to_string(degrees) + " degrees");
-}
-
-Answer getCloseScreenTemperature(const Request& request) {
-  const std::uint8_t degrees = request.state.power.closeTemperature;
-  return request.tell(std::to_string(degrees) + " degrees", {0, 0, 0, 0, 0, degrees});
-}
-
 constexpr Row kRows[] = {
     {command("setPower"), setPower, exactly(1)},
     {command("setBoardPower"), setBoardPower, exactly(1)},
@@ -73,8 +59,6 @@ constexpr Row kRows[] = {
     {command("setRelayPowers"), setRelayPowers, exactly(4)},
     {command("getPowerState"), getPowerState},
     {command("getScreenStatus"), getScreenStatus},
-    {command("setCloseScreenTemperature"), setCloseScreenTemperature, exactly(6)},
-    {command("getCloseScreenTemperature"), getCloseScreenTemperature},
 };
 
 }  // namespace

@@ -12,11 +12,13 @@ constexpr std::size_t kLongest = 65535;
 
 std::vector<Message> Schedules::requests() const {
   std::vector<Message> requests;
-  for (const Row& row : timetableRows()) {
-    const std::string name(row.command.method);
-    if (!name.starts_with(kSet)) continue;
-    if (auto payload = mStorage.read(name, kLongest)) {
-      requests.push_back({row.command.request, std::move(*payload)});
+  for (const auto rows : {brightnessRows(), timetableRows()}) {
+    for (const Row& row : rows) {
+      const std::string name(row.command.method);
+      if (!name.starts_with(kSet)) continue;
+      if (auto payload = mStorage.read(name, kLongest)) {
+        requests.push_back({row.command.request, std::move(*payload)});
+      }
     }
   }
   return requests;

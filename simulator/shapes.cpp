@@ -21,6 +21,25 @@ void appendLowFirst(Bytes& bytes, std::uint64_t value, int size) {
   for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> 8 * i & 0xFF));
 }
 
+std::string_view modeText(BrightnessMode mode) {
+  switch (mode) {
+    case BrightnessMode::Automatic:
+      return "automatic";
+    case BrightnessMode::Manual:
+      return "manual";
+    case BrightnessMode::Timetable:
+      return "by timetable";
+  }
+  return "";
+}
+
+std::string levelText(const State& state) {
+  return std::to_string(state.brightness) + " (" + std::string(modeText(state.brightnessMode)) +
+         ")";
+}
+
+Bytes refuseBehindSwitch(View payload) { return {payload.empty() ? kAsk : payload[0], 0}; }
+
 Answer setFlags(const Request& request, std::initializer_list<bool*> flags) {
   const bool on = request.payload[0] == 1;
   if (!on && request.payload[0] != 0) return request.refuse();

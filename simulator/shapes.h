@@ -19,6 +19,15 @@ inline std::uint16_t lowFirst(View bytes) {
 }
 void appendLowFirst(Bytes& bytes, std::uint64_t value, int size);
 
+// "automatic", "manual" or "by timetable"; and with the level in front: "80 (manual)".
+std::string_view modeText(BrightnessMode mode);
+std::string levelText(const State& state);
+
+// Commands with a switch in front of the payload: 1 does something, 0 asks. The reply repeats it.
+inline constexpr std::uint8_t kAsk = 0;
+inline constexpr std::uint8_t kDo = 1;
+Bytes refuseBehindSwitch(View payload);
+
 // One byte, 1 for on and 0 for off; and told as such.
 Answer setFlags(const Request& request, std::initializer_list<bool*> flags);
 Answer tellFlag(const Request& request, bool flag);

@@ -21,7 +21,6 @@ struct Power {
   bool board = true;
   std::array<bool, 4> relays{};
   std::array<std::uint8_t, 3> multiFunctionCard{};  // the last setting, as it came
-  std::uint8_t closeTemperature = 85;               // degrees that turn the screen off
 };
 
 // As they came, the number of entries first: a getter tells the very bytes that were set.
@@ -75,8 +74,9 @@ struct Network {
   std::string pingAddress = "127.0.0.1";
   std::vector<std::string> whitelist;
   std::string servers = "[]";
-  std::string lora = "{}";
   bool softSim = false;
+  std::string lora = "{}";
+  Bytes rdsRoad;
 };
 
 struct WallClock {
@@ -95,13 +95,13 @@ struct Security {
 };
 
 struct Maintenance {
+  std::uint8_t closeTemperature = 85;  // degrees that turn the screen off
   bool ssh = false;
   std::uint8_t solidified = 0;
   std::optional<long long> backup;  // when the last one was made, on the controller's clock
   unsigned cachesCleared = 0;
   std::vector<std::string> apps{"player", "settings"};
   std::string sensors = "{}";
-  Bytes rdsRoad;
 };
 
 struct Content {

@@ -1,10 +1,8 @@
-// Timetables of power, playing and brightness, the automatic brightness curve, advance timing.
+// Timetables of power, playing and brightness, advance timing.
 //
 //   list  = number of entries, entries
 //   entry = start, end, what is particular to the list
 //   time  = day, month, year (2 bytes, low first), second, minute, hour
-#include <algorithm>
-
 #include "simulator/shapes.h"
 
 namespace tovi::sim {
@@ -16,7 +14,6 @@ constexpr std::size_t kTimeSize = 7;
 constexpr std::size_t kPowerEntry = 14;
 constexpr std::size_t kBrightnessEntry = 15;
 constexpr std::size_t kPlayEntry = 16;
-constexpr std::size_t kCurveSize = 24;
 constexpr std::size_t kMaxAdvance = 4096;
 
 // A host that sends months from 0 and years from 1900 is caught here.
@@ -72,32 +69,6 @@ Answer getBrightnessByTimeList(const Request& request) {
   return tellList(request, request.state.timetables.brightness);
 }
 
-std::string curveText(View curve) {
-  std::string text;
-  for (std::size_t i = 0; i < curve.size(); i += 3) {
-    text += (i > 0 ? " " : "") + std::to_string(curve[i]) + ":" + std::to_string(curve[i + 1]);
-  }
-  return text;
-}
-
-Answer setBrightnessAuto(const Request& request) {
-  Bytes& curve = request.state.timetables.brightnessCurve;
-  curve.assign(request.payload.begin(), request.payload.end());
-  return request.accept(curveText(curve));
-}
-
-Answer getBrightnessAuto(const Request& request) {
-  const Bytes& curve = request.state.timetables.brightnessCurve;
-  return request.tell(curveText(curve), curve);
-}
-
-Answer setAutoBrightnessTimeParam(const Request& request) {
-  const View payload = request.payload;
-  if (payload[0] == 0 || payload[1] == 0) return request.refuse();
-  std::copy(payload.begin(), payload.end(), request.state.timetables.automaticTimes.begin());
-  return request.accept(std::to_string(payload[0]) + " and " + std::to_string(payload[1]));
-}
-
 Answer setAdvanceTiming(const Request& request) {
   return setText(request, request.state.timetables.advance);
 }
@@ -121,9 +92,6 @@ constexpr Row kRows[] = {
     {command("getPlayByTimeList"), getPlayByTimeList},
     {command("setBrightnessByTimeList"), setBrightnessByTimeList, atLeast(1)},
     {command("getBrightnessByTimeList"), getBrightnessByTimeList},
-    {command("setBrightnessAuto"), setBrightnessAuto, exactly(kCurveSize)},
-    {command("getBrightnessAuto"), getBrightnessAuto},
-    {command("setAutoBrightnessTimeParam"), setAutoBrightnessTimeParam, exactly(2)},
     {command("setAdvanceTiming"), setAdvanceTiming, {1, kMaxAdvance}},
     {command("getAdvanceTiming"), getAdvanceTiming, exactly(1)},
     {command("removeAdvanceTiming"), removeAdvanceTiming, exactly(1)},

@@ -7,6 +7,27 @@ namespace {
 
 class DisplayTest : public testing::Test, protected AskedController {};
 
+TEST_F(DisplayTest, TellsBrokenPixelsInParts) {
+  EXPECT_EQ(ask(0x36), "37: 00 00 00");  // not tested yet
+  EXPECT_EQ(ask(0x0B), "0C: 01 02 00 00 00");
+  EXPECT_EQ(ask(0x36), "37: 01 01 00 | 37: " + words("3,1;17,8"));
+
+  mController.change([](State& state) { state.display.badPixels.clear(); });
+  EXPECT_EQ(ask(0x0B), "0C: 01 00 00 00 00");
+  EXPECT_EQ(ask(0x36), "37: 01 00 00");
+
+  mController.change([](State& state) { state.display.badPixels.assign(300, {1, 2}); });
+  EXPECT_EQ(ask(0x0B), "0C: 01 2C 01 00 00");
+  ask(0x36);
+  ASSERT_EQ(mAnswer.replies.size(), 1U + 5);  // 1199 bytes
+  EXPECT_EQ(hex(mAnswer.replies[0].payload), "01 05 00");
+  std::string all;
+  for (std::size_t i = 1; i < 6; ++i) all += textOf(mAnswer.replies[i].payload);
+  std::string expected = "1,2";
+  for (int i = 1; i < 300; ++i) expected += ";1,2";
+  EXPECT_EQ(all, expected);
+}
+
 // Well-formed or not, as deep as a frame is long.
 TEST_F(DisplayTest, RefusesSettingsThatAreNoNumbersInAnObject) {
   const std::string deep(60'000, '[');

@@ -17,12 +17,6 @@ constexpr std::string_view kGetNames = "AA FF FF B0 CC CB A3";
 constexpr std::string_view kNames =
     "AA FF FF B0 01 5B 22 61 2E 74 78 74 22 5D 00 CC E3 A0";  // ["a.txt"]
 
-Options faulty(std::initializer_list<std::string_view> faults) {
-  Options options;
-  for (const std::string_view fault : faults) options.faults.push_back(parseFault(fault).value());
-  return options;
-}
-
 TEST(FileServer, TakesAFile) {
   Simulator simulator({});
   ASSERT_TRUE(simulator.start());
@@ -96,11 +90,15 @@ TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
     EXPECT_EQ(controller.handle({0x8A, list}).told, "accepted");
     EXPECT_EQ(controller.handle({0x8A, literal("01 00")}).told, "refused");
     EXPECT_EQ(controller.handle({0x41, literal("00")}).told, "accepted");
+    EXPECT_EQ(controller.handle({0xAA, literal("05 FE")}).told, "accepted");
     std::filesystem::create_directories(folder.path("schedules/files/setBrightnessAuto/occupied"));
     EXPECT_EQ(controller.handle({0x17, Bytes(24, 7)}).told, "refused") << "it cannot be kept";
     EXPECT_EQ(controller.state().timetables.brightnessCurve, Bytes(24, 0));
   }
-  EXPECT_EQ(Controller({}, {folder.path()}).state().timetables.power, list);
+  const Timetables kept = Controller({}, {folder.path()}).state().timetables;
+  EXPECT_EQ(kept.power, list);
+  EXPECT_EQ(kept.automaticTimes, (std::array<std::uint8_t, 2>{5, 0xFE}));
+  std::filesystem::remove(folder.path("schedules/files/setAutoBrightnessTimeParam"));
   std::ofstream(folder.path("schedules/files/setDevicePowerByTimeList")) << "damaged";
   EXPECT_EQ(Controller({}, {folder.path()}).state().timetables, Timetables{});
 }
@@ -174,27 +172,6 @@ TEST(FileServer, FaultsStrikeTheStepTheyName) {
       EXPECT_EQ(host.end(), one.end);
     }
     EXPECT_EQ(simulator.controller().files().has("a.txt"), one.stored);
-  }
-}
-
-TEST(FaultPlan, PassesOverOtherMethods) {
-  FaultPlan plan({parseFault("refuse@setPower#2:1").value(), parseFault("reset@setPower").value(),
-                  parseFault("garbage:1").value()});
-  const auto kind = [&plan](std::string_view method) {
-    const auto fault = plan.next(method);
-    return std::string(fault ? faultName(fault->kind) : "none");
-  };
-  EXPECT_EQ(kind("setPower"), "reset");  // its first; the refusal waits for the second
-  EXPECT_EQ(kind("setTime"), "garbage");
-  EXPECT_EQ(kind("setTime"), "none");
-  EXPECT_EQ(kind("setPower"), "refuse");
-  EXPECT_EQ(kind("setPower"), "reset");
-
-  EXPECT_EQ(parseFault("pieces=3@setPower#4:2").value().value, 3);
-  for (const char* text : {"refuse@", "refuse@nothing", "refuse@setPower#", "refuse@setPower#0",
-                           "refuse@setPower#x", "refuse@#1", "refuse@setPower:", "@setPower",
-                           "refuse@setPower@setTime", "refuse:1@setPower", "refuse#1"}) {
-    EXPECT_FALSE(parseFault(text)) << text;
   }
 }
 

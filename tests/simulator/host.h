@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "platform/sockets.h"
-#include "simulator/faults.h"
+#include "simulator/server.h"
 #include "tests/simulator/literal.h"
 
 namespace tovi::sim {
@@ -20,6 +20,25 @@ namespace tovi::sim {
 // Only ever waited out by a test that fails.
 inline constexpr int kLongMs = 20'000;
 inline constexpr std::chrono::milliseconds kLong{kLongMs};
+
+// Computed with a separate checksum.
+inline constexpr std::string_view kSetBrightness = "AA FF FF 07 02 50 CC 38 4A";
+inline constexpr std::string_view kAccepted = "AA FF FF 08 01 CC 4E 42";
+inline constexpr std::string_view kGetVolume = "AA FF FF A9 CC 42 E1";
+inline constexpr std::string_view kVolume50 = "AA FF FF A9 32 CC 8F 8B";
+
+inline Options keyed(std::string_view key) {
+  Options options;
+  options.key = parseKey(key).value();
+  return options;
+}
+
+inline Options faulty(std::initializer_list<std::string_view> faults,
+                      std::string_view key = "none") {
+  Options options = keyed(key);
+  for (const std::string_view fault : faults) options.faults.push_back(parseFault(fault).value());
+  return options;
+}
 
 // A host of the crudest kind: one connection, bytes in and out.
 class Host {

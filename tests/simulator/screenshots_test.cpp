@@ -5,7 +5,7 @@
 namespace tovi::sim {
 namespace {
 
-class PicturesTest : public testing::Test, protected AskedController {
+class ScreenshotsTest : public testing::Test, protected AskedController {
  protected:
   // The payload sizes of the pieces; each begins with its number.
   std::vector<std::size_t> takeScreenshot() {
@@ -24,7 +24,7 @@ class PicturesTest : public testing::Test, protected AskedController {
   Bytes mPicture;
 };
 
-TEST_F(PicturesTest, ShowTheDisplayInTheGreyOfItsBrightness) {
+TEST_F(ScreenshotsTest, ShowTheDisplayInTheGreyOfItsBrightness) {
   mController.change([](State& state) {
     state.display.mode.width = 5;
     state.display.mode.height = 2;
@@ -44,7 +44,7 @@ TEST_F(PicturesTest, ShowTheDisplayInTheGreyOfItsBrightness) {
   EXPECT_EQ(mPicture.back(), 0);
 }
 
-TEST_F(PicturesTest, ComeInPiecesTheLastOfWhichIsNotFull) {
+TEST_F(ScreenshotsTest, ComeInPiecesTheLastOfWhichIsNotFull) {
   EXPECT_EQ(takeScreenshot().size(), 1U);  // 256 x 128
   const std::pair<std::size_t, std::vector<std::size_t>> kSizes[] = {
       {0, {2}},
@@ -61,7 +61,7 @@ TEST_F(PicturesTest, ComeInPiecesTheLastOfWhichIsNotFull) {
   EXPECT_EQ(ask(0x80, "00 00"), "81: 00");
 }
 
-TEST_F(PicturesTest, OfHugeDisplaysAreSmaller) {
+TEST_F(ScreenshotsTest, OfHugeDisplaysAreSmaller) {
   mController.change([](State& state) {
     state.display.mode.width = 16384;
     state.display.mode.height = 1000;
@@ -69,27 +69,6 @@ TEST_F(PicturesTest, OfHugeDisplaysAreSmaller) {
   takeScreenshot();
   EXPECT_EQ(hex(View(mPicture).subspan(18, 8)), "00 10 00 00 FA 00 00 00");  // 4096 x 250
   EXPECT_EQ(mPicture.size(), 1078U + 4096 * 250);
-}
-
-TEST_F(PicturesTest, TellBrokenPixelsInParts) {
-  EXPECT_EQ(ask(0x36), "37: 00 00 00");  // not tested yet
-  EXPECT_EQ(ask(0x0B), "0C: 01 02 00 00 00");
-  EXPECT_EQ(ask(0x36), "37: 01 01 00 | 37: " + words("3,1;17,8"));
-
-  mController.change([](State& state) { state.display.badPixels.clear(); });
-  EXPECT_EQ(ask(0x0B), "0C: 01 00 00 00 00");
-  EXPECT_EQ(ask(0x36), "37: 01 00 00");
-
-  mController.change([](State& state) { state.display.badPixels.assign(300, {1, 2}); });
-  EXPECT_EQ(ask(0x0B), "0C: 01 2C 01 00 00");
-  ask(0x36);
-  ASSERT_EQ(mAnswer.replies.size(), 1U + 5);  // 1199 bytes
-  EXPECT_EQ(hex(mAnswer.replies[0].payload), "01 05 00");
-  std::string all;
-  for (std::size_t i = 1; i < 6; ++i) all += textOf(mAnswer.replies[i].payload);
-  std::string expected = "1,2";
-  for (int i = 1; i < 300; ++i) expected += ";1,2";
-  EXPECT_EQ(all, expected);
 }
 
 }  // namespace

@@ -1,40 +1,13 @@
-// Files and playlists, up to the controller.
-#include <gtest/gtest.h>
-
-#include "tests/simulator/asked_controller.h"
+#include "tests/simulator/uploads.h"
 
 namespace tovi::sim {
 namespace {
 
-constexpr std::size_t kFull = 65535;
 constexpr std::size_t kFullCiphered = 65517;
 
-class TransfersTest : public testing::Test, protected AskedController {
- protected:
-  explicit TransfersTest(Storage::Options files = {}) : AskedController(std::move(files)) {}
+using FilesTest = Uploads;
 
-  std::string name(std::string_view name) { return ask(0x11, "FF FF " + words(name)); }
-
-  std::string chunk(std::uint16_t number, std::size_t size, std::uint8_t fill = 'x') {
-    Bytes payload(2 + size, fill);
-    payload[0] = static_cast<std::uint8_t>(number & 0xFF);
-    payload[1] = static_cast<std::uint8_t>(number >> 8);
-    return ask(0x13, payload);
-  }
-
-  // The controller's word on the file; empty when it does not see the end of one.
-  std::string end() {
-    if (!mController.hasWholeFile(mSession)) return "";
-    const Answer answer = mController.confirmFile(mSession);
-    return hex(answer.replies.at(0).payload);
-  }
-
-  std::string content(const std::string& name) {
-    return textOf(mController.files().read(name).value_or(bytesOf("none")));
-  }
-};
-
-TEST_F(TransfersTest, AFileOfOneChunkIsStored) {
+TEST_F(FilesTest, AFileOfOneChunkIsStored) {
   EXPECT_EQ(name("a.txt"), "12: 01");
   EXPECT_EQ(ask(0x13, "01 00 68 65 6C 6C 6F"), "14: 01 00 01");
   EXPECT_EQ(mAnswer.asked, "chunk 1, 5 bytes");
@@ -44,7 +17,7 @@ TEST_F(TransfersTest, AFileOfOneChunkIsStored) {
   EXPECT_EQ(end(), "");
 }
 
-TEST_F(TransfersTest, AChunkThatIsNotFullEndsTheFile) {
+TEST_F(FilesTest, AChunkThatIsNotFullEndsTheFile) {
   EXPECT_EQ(name("full"), "12: 01");
   EXPECT_EQ(chunk(1, kFull, 'a'), "14: 01 00 01");
   EXPECT_EQ(end(), "");
@@ -67,7 +40,7 @@ TEST_F(TransfersTest, AChunkThatIsNotFullEndsTheFile) {
   EXPECT_EQ(end(), "01");
 }
 
-TEST_F(TransfersTest, ASecondEndIsAcknowledgedAndConfirmedAgain) {
+TEST_F(FilesTest, ASecondEndIsAcknowledgedAndConfirmedAgain) {
   name("a");
   chunk(1, kFull);
   EXPECT_EQ(chunk(2, 0), "14: 02 00 01");
@@ -79,7 +52,7 @@ TEST_F(TransfersTest, ASecondEndIsAcknowledgedAndConfirmedAgain) {
   EXPECT_EQ(content("a").size(), kFull);
 }
 
-TEST_F(TransfersTest, ChunksAreTakenInOrderAlone) {
+TEST_F(FilesTest, ChunksAreTakenInOrderAlone) {
   EXPECT_EQ(chunk(1, 1), "14: 01 00 00");  // of no file
   name("a");
   EXPECT_EQ(chunk(0, 1), "14: 00 00 00");
@@ -96,7 +69,7 @@ TEST_F(TransfersTest, ChunksAreTakenInOrderAlone) {
   EXPECT_EQ(content("a").size(), 2 * kFull + 1);
 }
 
-TEST_F(TransfersTest, NamesArePlainFileNames) {
+TEST_F(FilesTest, NamesArePlainFileNames) {
   const std::string longest(255, 'n');
   for (const std::string& good : {std::string("限速.mp4"), longest, std::string("a..b c.txt")}) {
     EXPECT_EQ(name(good), "12: 01") << good;
@@ -112,7 +85,7 @@ TEST_F(TransfersTest, NamesArePlainFileNames) {
   EXPECT_EQ(ask(0x11, "FF"), "12: 00");
 }
 
-TEST_F(TransfersTest, WhatIsNotFinishedIsDiscarded) {
+TEST_F(FilesTest, WhatIsNotFinishedIsDiscarded) {
   name("a");
   chunk(1, kFull);
   EXPECT_EQ(mController.files().used(), kFull);
@@ -130,9 +103,9 @@ TEST_F(TransfersTest, WhatIsNotFinishedIsDiscarded) {
   EXPECT_EQ(end(), "00");
 }
 
-class SmallStorage : public TransfersTest {
+class SmallStorage : public Uploads {
  protected:
-  SmallStorage() : TransfersTest({"", 100'000}) {}
+  SmallStorage() : Uploads({"", 100'000}) {}
 };
 
 TEST_F(SmallStorage, RefusesWhatDoesNotFit) {
@@ -147,59 +120,7 @@ TEST_F(SmallStorage, RefusesWhatDoesNotFit) {
   EXPECT_EQ(ask(0x47), "48: 61 00 00 00 60 00 00 00");
 }
 
-class PlaylistsTest : public TransfersTest {
- protected:
-  void upload(const std::string& file, std::string_view text = "[all]") {
-    ASSERT_EQ(name(file), "12: 01");
-    ASSERT_EQ(ask(0x13, "01 00 " + words(text)), "14: 01 00 01");
-    ASSERT_EQ(end(), "01");
-  }
-};
-
-TEST_F(PlaylistsTest, PlayAsNowPlayingTells) {
-  EXPECT_EQ(ask(0x2D), "2E: 02 00 00");
-  EXPECT_EQ(ask(0x3A), "3B: 00");
-  EXPECT_EQ(ask(0xA7), "A7:");
-  EXPECT_EQ(ask(0x1B, "05"), "1C: 00");
-
-  upload("play005.lst");
-  upload("play012.lst", "[x]");
-  upload("play12.lst");  // no playlist
-  EXPECT_EQ(ask(0xA7), "A7: 05 0C");
-  EXPECT_EQ(ask(0x1B, "05"), "1C: 01");
-  EXPECT_EQ(ask(0x2D), "2E: 01 00 05 " + words("play005.lst"));
-  EXPECT_EQ(ask(0x3A), "3B: 05 " + words("[all]"));
-
-  EXPECT_EQ(ask(0xAE, "05"), "AE: 01");
-  EXPECT_EQ(ask(0xAE, "05"), "AE: 00");
-  EXPECT_EQ(ask(0x2D), "2E: 02 00 00");
-  EXPECT_EQ(ask(0xA7), "A7: 0C");
-}
-
-TEST_F(PlaylistsTest, AreFoundByTheLowByteOfTheirNumber) {
-  upload("play044.lst");
-  upload("play300.lst");  // 300 is 44 in a byte
-  EXPECT_EQ(ask(0xA7), "A7: 2C 2C");
-  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
-  EXPECT_EQ(mAnswer.asked, "playlist 300");  // just sent
-  mSession = {};
-  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
-  EXPECT_EQ(mAnswer.asked, "playlist 44");
-  EXPECT_EQ(ask(0xAE, "2C"), "AE: 01");
-  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
-  EXPECT_EQ(mAnswer.asked, "playlist 300");
-}
-
-// A host sends a playlist as one chunk and then waits, however long the chunk is.
-TEST_F(PlaylistsTest, AreWholeWithTheirFirstChunk) {
-  name("play001.lst");
-  EXPECT_EQ(chunk(1, kFull), "14: 01 00 01");
-  EXPECT_EQ(end(), "01");
-  EXPECT_EQ(content("play001.lst").size(), kFull);
-  EXPECT_EQ(chunk(2, kFull), "14: 02 00 00");
-}
-
-TEST_F(PlaylistsTest, ListsAndCleanUpTellFilesApart) {
+TEST_F(FilesTest, AreToldApartByListsAndCleanUp) {
   upload("b \"1\".mp4");
   upload("a.png");
   upload("play005.lst");

@@ -1,5 +1,8 @@
-#include "simulator/transfers.h"
+// Files that come in (the name, numbered chunks, the controller's word at the end), the list of
+// those that are there, and clean-up.
+#include "simulator/files.h"
 
+#include "simulator/json.h"
 #include "simulator/playlists.h"
 #include "simulator/shapes.h"
 
@@ -12,6 +15,7 @@ constexpr std::uint8_t kNameMark[] = {0xFF, 0xFF};
 constexpr std::size_t kNumberSize = 2;
 constexpr std::size_t kFullChunk = 65'535;
 constexpr std::size_t kFullCipheredChunk = 65'517;
+constexpr std::size_t kMaxListed = 60'000;  // so that a list fits a frame
 
 Answer sendFileName(const Request& request) {
   const View payload = request.payload;
@@ -77,9 +81,57 @@ Answer lastWord(std::string told, bool kept) {
   return {std::string(end.method), {}, std::move(told), {{end.reply, {byteOf(kept)}}}};
 }
 
+enum class Kind : std::uint8_t { Any = 0, Media = 1, Playlists = 2, Updates = 3 };
+constexpr std::string_view kKindNames[] = {"everything", "media files", "playlists", "updates"};
+
+std::vector<std::string> namesOf(const Storage& files, Kind kind) {
+  std::vector<std::string> names = files.names();
+  std::erase_if(names, [kind](const std::string& name) {
+    const Kind own = playlistNumber(name) ? Kind::Playlists : Kind::Media;
+    return kind != Kind::Any && own != kind;
+  });
+  return names;
+}
+
+Answer tellNames(const Request& request, std::vector<std::string> names) {
+  std::size_t size = 0;
+  std::size_t listed = 0;
+  while (listed < names.size() && size < kMaxListed) size += jsonText(names[listed++]).size() + 1;
+  const std::size_t all = names.size();
+  names.resize(listed);
+  Answer answer = tellJson(request, names);
+  answer.told = std::to_string(all) + " names";
+  return answer;
+}
+
+Answer getAllMediaFileName(const Request& request) {
+  return tellNames(request, namesOf(request.files, Kind::Media));
+}
+
+Answer getFileListName(const Request& request) {
+  const std::uint8_t type = request.payload[0];
+  if (type > static_cast<std::uint8_t>(Kind::Playlists)) return request.refuse();
+  return tellNames(request, namesOf(request.files, static_cast<Kind>(type)));
+}
+
+Answer cleanUpFiles(const Request& request) {
+  const std::uint8_t type = request.payload[0];
+  if (type >= std::size(kKindNames)) return request.refuse();
+  const auto kind = static_cast<Kind>(type);
+  for (const std::string& name : namesOf(request.files, kind)) request.files.remove(name);
+  if (kind == Kind::Any || kind == Kind::Updates) {
+    request.state.content.updates.clear();
+    request.state.content.testUpdates.clear();
+  }
+  return request.accept(std::string(kKindNames[type]));
+}
+
 constexpr Row kRows[] = {
     {command("sendFileName"), sendFileName, atLeast(sizeof kNameMark)},
     {command("sendFileContent"), sendFileContent, atLeast(kNumberSize), nullptr, refusedChunk},
+    {command("getAllMediaFileName"), getAllMediaFileName},
+    {command("getFileListName"), getFileListName, exactly(1)},
+    {command("cleanUpFiles"), cleanUpFiles, exactly(1)},
 };
 
 }  // namespace
@@ -102,6 +154,6 @@ Answer refuseUpload(Upload& upload) {
   return lastWord("file refused", false);
 }
 
-std::span<const Row> transferRows() { return kRows; }
+std::span<const Row> fileRows() { return kRows; }
 
 }  // namespace tovi::sim

@@ -1,4 +1,4 @@
-// Files that come in: the name, numbered chunks, and the controller's word at the end.
+// The controller's word on a file that has come in whole.
 #pragma once
 
 #include "simulator/handlers.h"

@@ -78,13 +78,13 @@ Answer getIsSecret(const Request& request) {
 }
 
 constexpr Row kRows[] = {
-    {command("setDeviceSecretParam"), setDeviceSecretParam, atLeast(5)},
-    {command("setDeviceKey"), setDeviceKey, exactly(kKeySize)},
     {command("getIsSecret"), getIsSecret},
+    {command("setDeviceKey"), setDeviceKey, exactly(kKeySize)},
+    {command("setDeviceSecretParam"), setDeviceSecretParam, atLeast(5)},
 };
 
 }  // namespace
 
-std::span<const Row> securityRows() { return kRows; }
+std::span<const Row> secureModeRows() { return kRows; }
 
 }  // namespace tovi::sim

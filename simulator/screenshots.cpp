@@ -1,4 +1,4 @@
-// What the display shows, as a picture, and its broken pixels. Both come in pieces.
+// What the display shows, as a picture that comes in pieces.
 #include <algorithm>
 
 #include "simulator/shapes.h"
@@ -10,9 +10,6 @@ using wire::command;
 
 constexpr std::size_t kFullPiece = 65'535;
 constexpr int kMostPixels = 4'000'000;
-
-// Small enough that a few dozen pixels take several parts.
-constexpr std::size_t kPixelPart = 256;
 
 std::size_t rowSize(int width) { return (static_cast<std::size_t>(width) + 3) / 4 * 4; }
 
@@ -75,49 +72,12 @@ Answer getDeviceScreenshot(const Request& request) {
   return answer;
 }
 
-std::string badPixelsText(const Display& display) {
-  return std::to_string(display.badPixels.size()) + " broken pixels";
-}
-
-Answer startScreenPointDetect(const Request& request) {
-  Display& display = request.state.display;
-  display.pixelsTested = true;
-  Bytes reply{1};
-  appendLowFirst(reply, display.badPixels.size(), 4);
-  return request.tell(badPixelsText(display), std::move(reply));
-}
-
-// First how many parts there are, then the parts: "x,y;x,y".
-Answer getDetectErrorPointData(const Request& request) {
-  const Display& display = request.state.display;
-  if (!display.pixelsTested) return request.refuse("not tested yet");
-  std::string text;
-  for (const auto& [x, y] : display.badPixels) {
-    text += (text.empty() ? "" : ";") + std::to_string(x) + "," + std::to_string(y);
-  }
-  Bytes announced{1};
-  appendLowFirst(announced, (text.size() + kPixelPart - 1) / kPixelPart, 2);
-  Answer answer = request.tell(badPixelsText(display), std::move(announced));
-  for (std::size_t at = 0; at < text.size(); at += kPixelPart) {
-    answer.replies.push_back({request.row.command.reply, bytesOf(text.substr(at, kPixelPart))});
-  }
-  return answer;
-}
-
 constexpr Row kRows[] = {
     {command("getDeviceScreenshot"), getDeviceScreenshot, exactly(2)},
-    {command("startScreenPointDetect"), startScreenPointDetect},
-    {command("getDetectErrorPointData"),
-     getDetectErrorPointData,
-     {},
-     nullptr,
-     [](View) {
-       return Bytes{0, 0, 0};
-     }},
 };
 
 }  // namespace
 
-std::span<const Row> pictureRows() { return kRows; }
+std::span<const Row> screenshotRows() { return kRows; }
 
 }  // namespace tovi::sim
