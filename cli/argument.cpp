@@ -1,6 +1,5 @@
 #include "cli/argument.h"
 
-#include <algorithm>
 #include <cctype>
 
 namespace tovi::cli {
@@ -22,8 +21,11 @@ Argument<std::string> text(const std::string& name, const std::string& help, std
                            std::size_t most) {
   return argument(name, help, [least, most](const std::string& given) {
     if (given.size() < least || given.size() > most) {
-      throw Unusable("a text of " + std::to_string(given.size()) + " bytes, where " +
-                     std::to_string(least) + " to " + std::to_string(most) + " are taken");
+      const std::string room = most == wire::TextSize{}.most
+                                   ? std::to_string(least) + " or more"
+                                   : std::to_string(least) + " to " + std::to_string(most);
+      throw Unusable("a text of " + std::to_string(given.size()) + " bytes, where " + room +
+                     " are taken");
     }
     return given;
   });
@@ -38,7 +40,7 @@ Argument<std::string> argumentOf(const Method& method, const FittingText& fittin
     help += ", ";
   }
   const auto [least, most] = method.textSize();
-  return text(fitting.name, help + size, least, std::min(most, kMostTextBytes));
+  return text(fitting.name, help + size, least, most);
 }
 
 }  // namespace tovi::cli

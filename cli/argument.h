@@ -51,9 +51,6 @@ Argument<int> number(const std::string& name, const std::string& help, int least
 
 Argument<bool> onOff(const std::string& name);
 
-// What a text may have that its command's row does not limit: some have two bytes before them.
-constexpr std::size_t kMostTextBytes = wire::kMaxPayload - 2;
-
 // A text is given in the terminal's encoding, handed over in UTF-8. Lengths are in bytes.
 Argument<std::string> text(const std::string& name, const std::string& help, std::size_t least,
                            std::size_t most);

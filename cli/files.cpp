@@ -40,7 +40,7 @@ void addFiles(Commands& commands) {
   commands.add({"sendFile", {"sendFileName", "sendFileContent", "recvFileOverRsp"}},
                "Send a file; Ctrl-C stops it between two chunks", sendFile,
                argument("PATH", "The file on this machine", readablePath),
-               text("NAME", "The name on the controller, UTF-8", 1, kMostTextBytes));
+               text("NAME", "The name on the controller, UTF-8", 1, wire::TextSize{}.most));
   commands.add("getAllMediaFileName", "List the media on the controller, one a line",
                asks(&ToviTraffic::getAllMediaFileName));
   commands.add("getFileListName", "List the files of one type, one a line",

@@ -38,7 +38,7 @@ std::string Method::command() const {
 
 std::string Method::textSizeInWords() const {
   const auto [least, most] = textSize();
-  if (most == wire::kMaxPayload) return "";
+  if (most == wire::TextSize{}.most) return "";
   const std::string end = std::to_string(most) + " bytes";
   return least == 0 ? "at most " + end : std::to_string(least) + " to " + end;
 }

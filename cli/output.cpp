@@ -20,6 +20,9 @@ const char* adviceOn(ToviOutcome outcome) {
       return "check the path, its permissions and the room on the disk";
     case ToviOutcome::RefusedArgument:
       return "check the values against --help";
+    case ToviOutcome::OutOfMemory:
+      return "close other programs";
+    case ToviOutcome::Stopped:
     case ToviOutcome::Done:
       break;
   }

@@ -13,9 +13,6 @@ std::string textOfFile(const std::string& path) {
   std::optional<std::string> content = readText(path);
   if (!content) throw Unusable("cannot read " + quoted(path));
   if (content->find('\0') != std::string::npos) throw Unusable(quoted(path) + " is no text");
-  if (content->size() > kMostTextBytes) {
-    throw Unusable(quoted(path) + " has more than " + std::to_string(kMostTextBytes) + " bytes");
-  }
   return *std::move(content);
 }
 

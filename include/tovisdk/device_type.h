@@ -13,9 +13,9 @@ class TOVISDK_API DeviceType {
  public:
   DeviceType();
   /// Copies member by member: both objects then own the same date, and only one of them may be
-  /// destroyed.
+  /// destroyed. For that reason copies are not made silently.
   DeviceType& operator=(const DeviceType&) = default;
-  DeviceType(const DeviceType&) = default;
+  DeviceType(const DeviceType&) = delete;
   /// Releases the date.
   ~DeviceType();
 

@@ -26,7 +26,7 @@
 #define TOVISDK_FLAT_H
 
 #include <tovisdk/export.h>
-#include <tovisdk/version.h>
+#include <tovisdk/log_control.h>
 
 #ifdef __cplusplus
 extern "C" {

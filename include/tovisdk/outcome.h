@@ -13,8 +13,10 @@ enum class ToviOutcome {
   SendFailed,       ///< the connection broke while the request was sent
   NoReply,          ///< no matching reply came in time
   BadReply,         ///< a reply came that is too short or cannot be decoded
-  Rejected,         ///< the controller answered that it refuses
+  Rejected,         ///< the controller refused a setting; a question that it answers "no" is Done
   LocalFile,        ///< a file on this machine could not be opened, read or written
+  Stopped,          ///< the host stopped it
+  OutOfMemory,      ///< this machine had no memory for it; what was sent by then is not known
 };
 
 /// A short English text, as in "no reply". Static, never null.

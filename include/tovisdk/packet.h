@@ -20,8 +20,9 @@
 /// 8 to 23 of its MD5 text the AES and SM4 key
 /// @param outLen receives the length of the frame
 /// @return a new array that the caller releases with deleteArry. Null, with *outLen 0 and an error
-/// in the log, when data is null although len is above 0, or when outLen is null. A payload of more
-/// than 65535 bytes after enciphering is logged as an error and framed as empty.
+/// in the log, when data is null although len is above 0 or when outLen is null; and when memory is
+/// out. A payload of more than 65535 bytes after enciphering is logged as an error and framed as
+/// empty.
 TOVISDK_API char* makeSendPacketEx(char what, char* data, int len, int mode, char* key,
                                    int* outLen);
 

@@ -43,8 +43,10 @@ class TOVISDK_API ProtocalParser {
   /// A parser for plain replies.
   ProtocalParser();
 
-  /// A parser for enciphered replies: mode 1 DES, 2 AES-128, 3 SM4; any other mode is plain. It
-  /// takes ownership of `key`, a zero-terminated password in an array made with new[].
+  /// A parser for enciphered replies: mode 1 DES, 2 AES-128, 3 SM4; any other mode is plain, and so
+  /// is a null key. Where memory is out, replies stay as they come.
+  /// @param key a zero-terminated password. In mode 1 it is an array made with new[], which the
+  /// parser keeps and releases; in every other mode it is read here and stays the caller's
   ProtocalParser(char* key, int mode);
 
   ProtocalParser(const ProtocalParser&) = delete;
@@ -61,8 +63,11 @@ class TOVISDK_API ProtocalParser {
   /// @return a new array that the caller releases with deleteArry: the command byte and the plain
   /// payload, or for a 16-bit command the payload alone, which begins with the code, low byte
   /// first. Null when no matching reply is complete; frames with a wrong checksum, a bad escape or
-  /// another command are skipped.
+  /// another command are skipped. Null as well when memory is out.
   char* recvProc(char* data, int len, short what);
+
+  /// Length in bytes of the package that the last recvProc returned; 0 when it returned none.
+  int getPackageLen() const;
 
  private:
   friend class tovi::wire::Receiver;

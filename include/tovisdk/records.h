@@ -150,9 +150,10 @@ class TOVISDK_API DeviceNowPlayItem {
  public:
   /// Takes ownership of `content`, a zero-terminated array made with new[], or null.
   DeviceNowPlayItem(bool playOpen, int playId, char* content);
-  /// Copies member by member: both then own one array, and only one of them may be destroyed.
+  /// Copies member by member: both then own one array, and only one of them may be destroyed. For
+  /// that reason copies are not made silently.
   DeviceNowPlayItem& operator=(const DeviceNowPlayItem&) = default;
-  DeviceNowPlayItem(const DeviceNowPlayItem&) = default;
+  DeviceNowPlayItem(const DeviceNowPlayItem&) = delete;
   ~DeviceNowPlayItem();
 
   bool playIsOpen() const;   ///< playback is running
@@ -170,9 +171,10 @@ class TOVISDK_API DeviceNowPlayList {
  public:
   /// Takes ownership of `content`, a zero-terminated array made with new[], or null.
   DeviceNowPlayList(int playId, char* content);
-  /// Copies member by member: both then own one array, and only one of them may be destroyed.
+  /// Copies member by member: both then own one array, and only one of them may be destroyed. For
+  /// that reason copies are not made silently.
   DeviceNowPlayList& operator=(const DeviceNowPlayList&) = default;
-  DeviceNowPlayList(const DeviceNowPlayList&) = default;
+  DeviceNowPlayList(const DeviceNowPlayList&) = delete;
   ~DeviceNowPlayList();
 
   int getPlayId() const;     ///< -128 to 127

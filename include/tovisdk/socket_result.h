@@ -17,9 +17,9 @@ class TOVISDK_API SocketResult {
   SocketResult(char* data, int len);
 
   /// Copies member by member: both objects then refer to the same bytes, and only one of them may
-  /// be destroyed.
+  /// be destroyed. For that reason copies are not made silently.
   SocketResult& operator=(const SocketResult&) = default;
-  SocketResult(const SocketResult&) = default;
+  SocketResult(const SocketResult&) = delete;
 
   /// Releases the bytes and writes the line "SocketResult delete" to standard output.
   ~SocketResult();

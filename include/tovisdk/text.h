@@ -1,5 +1,6 @@
 /// @file
-/// Small text helpers, and the release of what the library allocated.
+/// Small text helpers, and the release of what the library allocated. Where memory is out, texts
+/// and lists come back empty and numbers as 0.
 #ifndef TOVISDK_TEXT_H
 #define TOVISDK_TEXT_H
 

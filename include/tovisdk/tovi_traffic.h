@@ -28,7 +28,13 @@ class Session;
 ///
 /// Every operation blocks until it is done. The reply is awaited for at most three reads, each
 /// bounded by the time-out, with pauses of 500 ms between them; a silent controller therefore costs
-/// up to three time-outs and one second. Nothing is thrown and no signal is raised.
+/// up to three time-outs and one second. Nothing is thrown and no signal is raised: where memory is
+/// out, the connection is closed, an operation gives the value with which it fails (-11 for
+/// settings) and lastOutcome is OutOfMemory.
+///
+/// Any length of text goes out plain. With a key set, the payload of a request has at most 65527
+/// bytes with DES and 65519 with AES and SM4, the code of a 16-bit command included; what does not
+/// fit such a frame is refused.
 ///
 /// Operations that return `int` return 1 (SUCCESS), or a negative code:
 /// - -11 (SEND_NOT_RECV_ERROR): sent, but no matching reply came
@@ -41,7 +47,7 @@ class TOVISDK_API ToviTraffic {
  public:
   static constexpr int TEMP_SIZE = 100;          ///< receive buffer of an ordinary query, in bytes
   static constexpr int BIG_SIZE = 4096;          ///< receive buffer of a large query
-  static constexpr int BIG_STRING_SIZE = 8192;   ///< buffer for large text replies
+  static constexpr int BIG_STRING_SIZE = 8192;   ///< receive buffer of texts and lists of names
   static constexpr int SCREENSHOT_SIZE = 65535;  ///< receive buffer of a screenshot
   static constexpr int MAX_FAIL_COUNT = 3;       ///< reads before a reply is given up
   static constexpr int SUCCESS = 1;
@@ -89,9 +95,9 @@ class TOVISDK_API ToviTraffic {
   /// first operation.
   ///
   /// A null password empties the setter's own slot. A password of another length is refused: a
-  /// warning is logged and nothing changes. Neither a setter nor clearPassword empties the slots of
-  /// the other ciphers: a DES key set earlier stays in force after setAesKey. The way back to plain
-  /// exchanges is each setter called with null.
+  /// warning is logged, nothing changes and lastOutcome is RefusedArgument. Neither a setter nor
+  /// clearPassword empties the slots of the other ciphers: a DES key set earlier stays in force
+  /// after setAesKey. The way back to plain exchanges is each setter called with null.
   /// @{
 
   void setDesKey(const char* password);
@@ -229,7 +235,7 @@ class TOVISDK_API ToviTraffic {
   int setTime(std::tm* time);
 
   /// Sets clock and time zone. Command and reply 0x95; payload: the text "time,zoneId,utcOffset",
-  /// which ends at its first white space.
+  /// which ends at its first white space. The time counts milliseconds since 1970.
   /// @return 1, -11, -12 or -14
   int setTimeAndTimeZone(TimeZoneParam param);
 
@@ -401,7 +407,8 @@ class TOVISDK_API ToviTraffic {
 
   /// Keeps a connection. Command 0xF3, reply 0xF4; payload 4 bytes: 1 or 0, interval (low byte
   /// first), low byte of value.
-  /// @param interval below 60 is sent as 60
+  /// @param interval below 60 is sent as 60; above 65535 its low 16 bits are sent, which may be
+  /// less
   /// @return 1, -11, -12 or -14
   int setVirtualConnection(bool on, int interval, int value);
   /// The kept connection. Command and reply 0xD3, no payload; at least 5 bytes: flag, interval
@@ -410,14 +417,14 @@ class TOVISDK_API ToviTraffic {
   VirtualParam getVirtualConnection();
 
   /// Sets the address that the controller pings. Command and reply 0x0101; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text that fits no frame
   int setPingIp(const std::string& address);
   /// That address. Command and reply 0x0102, no payload; text from byte 3 when byte 2 is 1.
   /// @return empty without a usable reply
   std::string getPingIp();  ///< command 0x0102
 
   /// Sets the servers' addresses. Command and reply 0x010D; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text that fits no frame
   int setServerIPLists(const std::string& lists);
   /// The servers' addresses. Command and reply 0x010E, no payload; text from byte 3 when byte 2 is
   /// 1.
@@ -425,10 +432,10 @@ class TOVISDK_API ToviTraffic {
   std::string getServerIPLists();  ///< command 0x010E
 
   /// Adds to the whitelist. Command and reply 0x010A; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text that fits no frame
   int addWhitelist(const std::string& entry);
   /// Takes from the whitelist. Command and reply 0x010B; payload: the text.
-  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text of more than 65517 bytes
+  /// @return 1 accepted, 0 not, -1 no reply, or -15 for a text that fits no frame
   int removeWhitelist(const std::string& entry);
   /// The whitelist. Command and reply 0x0109, no payload; text from byte 3 when byte 2 is 1.
   /// @return empty without a usable reply
@@ -490,7 +497,7 @@ class TOVISDK_API ToviTraffic {
   ResultParam getLoraInfo();
 
   /// Sets the radio's road. Command and reply 0x99; payload: of each character its distance to "0".
-  /// @return 1, -11, -12, -14, or -15 for a text of more than 65517 bytes
+  /// @return 1, -11, -12, -14, or -15 for a text that fits no frame
   int setRDSRoad(const std::string& digits);
   /// The radio's road. Command and reply 0x9A; payload 01. Every byte of the reply, the command
   /// byte too, is shown as a character after "0".
@@ -598,9 +605,10 @@ class TOVISDK_API ToviTraffic {
   static constexpr int STOPPED_BY_HOST = -16;
 
   /// Hears of a transfer's progress after each chunk: bytes acknowledged, and bytes in all (the
-  /// file's size when it was opened). False stops the transfer there, after the last chunk too:
-  /// nothing more is sent or awaited. It is called on the caller's thread and must not use the same
-  /// object; what it throws passes through, with the connection and the file closed.
+  /// file's size when it was opened, -1 when that is not known, as of a pipe). False stops the
+  /// transfer there, after the last chunk too: nothing more is sent or awaited. It is called on the
+  /// caller's thread and must not use the same object; what it throws passes through, with the
+  /// connection and the file closed.
   using Progress = std::function<bool(long long sent, long long total)>;
 
   /// Sends a file. Command 0x11, reply 0x12: the name behind 0xFF 0xFF. Command 0x13, reply 0x14:
@@ -610,7 +618,7 @@ class TOVISDK_API ToviTraffic {
   /// @param name the name under which the controller stores it
   /// @return 1; -1 no connection; -3, -4 the name was not answered or refused; -5, -6 a chunk; -7,
   /// -8 the end; -13 the file cannot be opened or read, or became shorter meanwhile: the name has
-  /// been announced by then; -15 a null argument or a name of more than 65515 bytes
+  /// been announced by then; -15 a null argument or a name that fits no frame
   int sendFile(const char* path, const char* name);
   /// The same, told to the host as it goes.
   /// @return as above, and -16 when the host stopped it
@@ -635,10 +643,10 @@ class TOVISDK_API ToviTraffic {
 
   /// Uploads a playlist as "playNNN.lst" and plays it: the steps of sendFile with the text as one
   /// chunk, then command 0x1B, reply 0x1C with the number's low byte.
-  /// @param number above 999 it is taken modulo 999
+  /// @param number above 999 it is taken modulo 999; below -99 the name is cut to its 11 characters
   /// @param text zero-terminated, sent as it is
   /// @return 1; -14 no connection; -3 to -8 as sendFile; -9, -10 playing was not answered or
-  /// refused; -15 for null, a text of more than 65515 bytes or a number below -99
+  /// refused; -15 for null or a text that fits no frame
   int sendPlayList(int number, const char* text);
 
   /// Plays a playlist. Command 0x1B, reply 0x1C; payload 1 byte: the number.
@@ -660,7 +668,7 @@ class TOVISDK_API ToviTraffic {
 
   /// Updates from a local path on the controller. Command 0x88, reply 0x89; payload 01, low byte of
   /// the type, the text.
-  /// @return 1, -11, -12, -14, or -15 for null or a text of more than 65515 bytes
+  /// @return 1, -11, -12, -14, or -15 for null or a text that fits no frame
   int sendLocalUpdate(int type, const char* text);
   /// The same for trial. Command 0x88, reply 0x89; payload: low byte of the type, FE, the text.
   /// @return as above
@@ -680,7 +688,7 @@ class TOVISDK_API ToviTraffic {
   /// payload: the list, a JSON array. Replies of status 2 mean that it goes on; at most 100000
   /// replies are waited for. Without a connection the line "socket == NULL" goes to the standard
   /// output, "send SOCKET_ERROR" when sending fails.
-  /// @return whether status 1 came; false for a list of more than 65517 bytes
+  /// @return whether status 1 came; false for a list that fits no frame
   bool downloadFiles(const std::string& list);
 
   /// @}

@@ -13,38 +13,45 @@ constexpr int kSubstitute = 125;
 constexpr int kCurvePoints = 8;
 constexpr int kCurveReplySize = 25;
 
+std::string encode(const BrightnessItem& curve) {
+  std::string payload;
+  for (const BrightnessPoint& point : curve.points) {
+    payload += bytes({point.environmentBrightness, point.screenBrightness, 0});
+  }
+  return payload;
+}
+
+BrightnessItem* newCurve(const Reply& reply) {
+  BrightnessItem* curve = new BrightnessItem;
+  for (int k = 0; k < kCurvePoints; ++k) {
+    curve->points[k] = {reply.unsignedByte(3 * k + 1), reply.unsignedByte(3 * k + 2)};
+  }
+  return curve;
+}
+
 }  // namespace
 
 int ToviTraffic::setBrightness(int level) {
   const bool valid = level >= 0 && level <= 255;
-  return Operation(*this, "setBrightness").set(bytes({kManual, valid ? level : kSubstitute}));
+  return Operation(*this, "setBrightness").set(kManual, valid ? level : kSubstitute);
 }
 
 BrightnessInfo ToviTraffic::getBrightnessInfo() {
-  const Reply reply = Operation(*this, "getBrightnessInfo").ask(atLeast(3));
-  BrightnessInfo info;
-  if (reply) info = {reply.signedByte(1), reply.unsignedByte(2)};
-  return info;
+  return Operation(*this, "getBrightnessInfo")
+      .ask(atLeast(3), BrightnessInfo(), [](const Reply& reply) {
+        return BrightnessInfo{reply.signedByte(1), reply.unsignedByte(2)};
+      });
 }
 
 int ToviTraffic::setBrightnessAuto(BrightnessItem* item) {
   Operation operation(*this, "setBrightnessAuto");
   if (item == nullptr) return operation.refuse("the curve is null");
-  std::string payload;
-  for (const BrightnessPoint& point : item->points) {
-    payload += bytes({point.environmentBrightness, point.screenBrightness, 0});
-  }
-  return operation.setAfter("setBrightness", bytes({kAutomatic, 0}), payload);
+  return operation.setAfter("setBrightness", bytes({kAutomatic, 0}), [&] { return encode(*item); });
 }
 
 BrightnessItem* ToviTraffic::getBrightnessAuto() {
-  const Reply reply = Operation(*this, "getBrightnessAuto").ask(exactly(kCurveReplySize));
-  if (!reply) return nullptr;
-  BrightnessItem* item = new BrightnessItem;
-  for (int k = 0; k < kCurvePoints; ++k) {
-    item->points[k] = {reply.unsignedByte(3 * k + 1), reply.unsignedByte(3 * k + 2)};
-  }
-  return item;
+  BrightnessItem* const none = nullptr;
+  return Operation(*this, "getBrightnessAuto").ask(exactly(kCurveReplySize), none, newCurve);
 }
 
 bool ToviTraffic::setAutoBrightnessTimeParam(char first, char second) {
@@ -53,13 +60,14 @@ bool ToviTraffic::setAutoBrightnessTimeParam(char first, char second) {
     operation.refuse("neither value may be 0");
     return false;
   }
-  const Reply reply = operation.ask(atLeast(2), bytes({first, second}));
-  if (!reply) return false;
-  return reply.isOne(1) || operation.end(ToviOutcome::Rejected, false);
+  const auto accepted = [&](const Reply& reply) {
+    return reply.isOne(1) || operation.end(ToviOutcome::Rejected, false);
+  };
+  return operation.ask(atLeast(2), false, accepted, first, second);
 }
 
 int ToviTraffic::setDeviceVolume(int volume) {
-  return Operation(*this, "setDeviceVolume").set(bytes({volume}));
+  return Operation(*this, "setDeviceVolume").set(volume);
 }
 
 char ToviTraffic::getVolumeValue() {

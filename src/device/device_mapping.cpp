@@ -1,16 +1,16 @@
 #include "device/device_mapping.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "device/json_reply.h"
 #include "json/json_object.h"
 
 namespace tovi::device {
 namespace {
 
 int intMember(const CJsonObject& object, std::string_view key) {
-  return std::atoi(object.valueText(key).c_str());
+  return numberIn(object.valueText(key)).value_or(0);
 }
 
 DeviceMapping parseMapping(CJsonObject& entry) {

@@ -1,17 +1,13 @@
 // Resolution, timing, video input, fonts and broken pixels.
-#include <tovisdk/codec.h>
-
 #include <algorithm>
-#include <iostream>
 
 #include "device/json_reply.h"
 #include "foundation/log.h"
-#include "json/json_object.h"
 #include "session/operation.h"
 
 using namespace tovi;
 using namespace tovi::session;
-using tovi::device::JsonReply;
+using namespace tovi::device;
 
 namespace {
 
@@ -38,13 +34,13 @@ int announcedParts(const Reply& announced) {
 std::optional<std::string> askParts(Session session, Connection& connection, const Codes& codes,
                                     std::string_view payload, int bufferSize) {
   if (!connection) {
-    std::cout << "socket == NULL" << std::endl;
+    log::print("socket == NULL");
     session.end(ToviOutcome::NoConnection);
     return std::nullopt;
   }
   if (session.send(connection.socket(), codes.what, payload) < 0) {
     connection.close();
-    std::cout << "send SOCKET_ERROR" << std::endl;
+    log::print("send SOCKET_ERROR");
     session.end(ToviOutcome::SendFailed);
     return std::nullopt;
   }
@@ -70,45 +66,54 @@ std::optional<std::string> askParts(Session session, Connection& connection, con
 }  // namespace
 
 int ToviTraffic::setCustomResolution(int width, int height, int refreshRate) {
-  CJsonObject request;
-  request.addInt("displayMode", 1);
-  request.addInt("width", width);
-  request.addInt("height", height);
-  request.addInt("refreshRate", refreshRate);
-  return Operation(*this, "setCustomResolution").set(request.toText());
+  return Operation(*this, "setCustomResolution").set([&] {
+    return JsonRequest()
+        .number("displayMode", 1)
+        .number("width", width)
+        .number("height", height)
+        .number("refreshRate", refreshRate)
+        .toText();
+  });
 }
 
 ResolutionInfo ToviTraffic::getCurrentResolution() {
-  const JsonReply reply(Operation(*this, "getCurrentResolution"));
-  return {reply.result(), reply.text("value")};
+  return askJson<ResolutionInfo>(Operation(*this, "getCurrentResolution"), [](JsonReply& reply) {
+    return ResolutionInfo{0, reply.text("value")};
+  });
 }
 
 int ToviTraffic::setEdidInfo(EdidInfo info) {
-  CJsonObject request;
-  request.addInt("fieldRate", info.fieldRate);
-  request.addInt("width", info.width);
-  request.addInt("height", info.height);
-  return Operation(*this, "setEdidInfo").set(request.toText());
+  return Operation(*this, "setEdidInfo").set([&] {
+    return JsonRequest()
+        .number("fieldRate", info.fieldRate)
+        .number("width", info.width)
+        .number("height", info.height)
+        .toText();
+  });
 }
 
 EdidInfo ToviTraffic::getEdidInfo() {
-  const JsonReply reply(Operation(*this, "getEdidInfo"));
-  return {reply.result(), reply.number("width"), reply.number("height"), reply.number("fieldRate")};
+  return askJson<EdidInfo>(Operation(*this, "getEdidInfo"), [](JsonReply& reply) {
+    return EdidInfo{0, reply.number("width"), reply.number("height"), reply.number("fieldRate")};
+  });
 }
 
 int ToviTraffic::setVideoControlInfo(int videoSource) {
-  CJsonObject request;
-  request.addText("isScale", "false");
-  request.addInt("offsetX", 0);
-  request.addInt("offsetY", 0);
-  request.addInt("videoMode", 1);
-  request.addInt("videoSource", videoSource);
-  return Operation(*this, "setVideoControlInfo").set(request.toText());
+  return Operation(*this, "setVideoControlInfo").set([&] {
+    return JsonRequest()
+        .text("isScale", "false")
+        .number("offsetX", 0)
+        .number("offsetY", 0)
+        .number("videoMode", 1)
+        .number("videoSource", videoSource)
+        .toText();
+  });
 }
 
 VideoControlInfo ToviTraffic::getVideoControlInfo() {
-  const JsonReply reply(Operation(*this, "getVideoControlInfo"));
-  return {reply.result(), reply.number("videoSource")};
+  return askJson<VideoControlInfo>(Operation(*this, "getVideoControlInfo"), [](JsonReply& reply) {
+    return VideoControlInfo{0, reply.number("videoSource")};
+  });
 }
 
 std::string ToviTraffic::getSupportVideoSource() {
@@ -116,37 +121,37 @@ std::string ToviTraffic::getSupportVideoSource() {
 }
 
 DeviceSize ToviTraffic::getDeviceSize() {
-  const Reply reply = Operation(*this, "getDeviceSize").ask(atLeast(5));
-  DeviceSize size;
-  if (reply) size = {reply.unsignedShort(1), reply.unsignedShort(3)};
-  return size;
+  return Operation(*this, "getDeviceSize").ask(atLeast(5), DeviceSize(), [](const Reply& reply) {
+    return DeviceSize{reply.unsignedShort(1), reply.unsignedShort(3)};
+  });
 }
 
 void ToviTraffic::setAntiAliasing(bool first, bool second, bool third) {
-  Operation(*this, "setAntiAliasing").set(bytes({first, second, third}));
+  Operation(*this, "setAntiAliasing").set(first, second, third);
 }
 
 TextAttr ToviTraffic::getAntiAliasing() {
-  const Reply reply = Operation(*this, "getAntiAliasing").ask(atLeast(4));
-  return {reply.isOne(1), reply.isOne(2), reply.isOne(3)};
+  return Operation(*this, "getAntiAliasing").ask(atLeast(4), TextAttr(), [](const Reply& reply) {
+    return TextAttr{reply.isOne(1), reply.isOne(2), reply.isOne(3)};
+  });
 }
 
 bool ToviTraffic::setSyncPlay(bool on) {
-  return Operation(*this, "setSyncPlay").set(bytes({on})) == SUCCESS;
+  return Operation(*this, "setSyncPlay").set(on) == SUCCESS;
 }
 
 bool ToviTraffic::getSyncPlay() { return Operation(*this, "getSyncPlay").set() == SUCCESS; }
 
 int ToviTraffic::setPreStoredScreenEnabled(bool on) {
-  return Operation(*this, "setPreStoredScreenEnabled").askByte(3, bytes({kSet, on}));
+  return Operation(*this, "setPreStoredScreenEnabled").askByte(3, kSet, on);
 }
 
 PreStoredScreenEnabled ToviTraffic::getPreStoredScreenEnabled() {
-  const Reply reply =
-      Operation(*this, "getPreStoredScreenEnabled").ask(atLeast(5), bytes({kQuery}));
-  PreStoredScreenEnabled enabled;
-  if (reply) enabled = {reply.signedByte(3), reply.signedByte(4)};
-  return enabled;
+  const auto decode = [](const Reply& reply) {
+    return PreStoredScreenEnabled{reply.signedByte(3), reply.signedByte(4)};
+  };
+  return Operation(*this, "getPreStoredScreenEnabled")
+      .ask(atLeast(5), PreStoredScreenEnabled(), decode, kQuery);
 }
 
 int ToviTraffic::setFont(const std::string& font) {
@@ -157,28 +162,30 @@ std::string ToviTraffic::getFontList() { return Operation(*this, "getFontList").
 
 ScreenPointDetect ToviTraffic::startScreenPointDetect() {
   Operation operation(*this, "startScreenPointDetect");
-  const Reply reply = operation.ask(atLeast(6));
-  if (!reply) return {};
-  if (!reply.isOne(1)) return operation.end(ToviOutcome::Rejected, ScreenPointDetect());
-  return {1, reply.integer(2)};
+  return operation.ask(atLeast(6), ScreenPointDetect(), [&](const Reply& reply) {
+    if (!reply.isOne(1)) return operation.end(ToviOutcome::Rejected, ScreenPointDetect());
+    return ScreenPointDetect{1, reply.integer(2)};
+  });
 }
 
 std::string ToviTraffic::getDetectErrorPointInfo() {
   constexpr const wire::Command& kDetect = wire::command("startScreenPointDetect");
   constexpr const wire::Command& kParts = wire::command("getDetectErrorPointData");
   Call call(*this, "getDetectErrorPointInfo");
-  Session session = call.session();
-  Connection connection(session);
-  if (!connection) return call.end(ToviOutcome::NoConnection, "");
-  const Reply detected(session.askOn(connection.socket(), wire::wideCode(kDetect.request),
-                                     wire::wideCode(kDetect.reply), {}, kDetect.buffer));
-  if (!detected) return "";
-  const Codes codes{wire::wideCode(kParts.request), wire::wideCode(kParts.reply),
-                    wire::wideCode(kParts.reply)};
-  const std::optional<std::string> joined = askParts(session, connection, codes, {}, kParts.buffer);
-  if (!joined) return "";
-  tellRelease();  // the parts were one reply to hosts
-  return *joined;
+  return call.guarded(std::string(), [&] {
+    Session session = call.session();
+    Connection connection(session);
+    if (!connection) return call.end(ToviOutcome::NoConnection, std::string());
+    const Reply detected(session.askOn(connection.socket(), wire::wideCode(kDetect.request),
+                                       wire::wideCode(kDetect.reply), {}, kDetect.buffer));
+    if (!detected) return std::string();
+    const Codes codes{wire::wideCode(kParts.request), wire::wideCode(kParts.reply),
+                      wire::wideCode(kParts.reply)};
+    std::optional<std::string> joined = askParts(session, connection, codes, {}, kParts.buffer);
+    if (!joined) return std::string();
+    tellRelease();  // the parts were one reply to hosts
+    return *std::move(joined);
+  });
 }
 
 // Kept: the interface names it.

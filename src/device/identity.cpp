@@ -5,61 +5,25 @@
 #include "device/json_reply.h"
 #include "session/operation.h"
 
-using namespace tovi;
 using namespace tovi::session;
-using tovi::device::JsonReply;
+using namespace tovi::device;
 
 namespace {
 
 constexpr int kStatusSize = 19;
 
 // Controllers send one date value, and it stands for every field.
-std::tm* newDate(int value) {
-  std::tm* date = new std::tm{};
+std::unique_ptr<std::tm> newDate(int value) {
+  auto date = std::make_unique<std::tm>();
   date->tm_sec = date->tm_min = date->tm_hour = value;
   date->tm_mday = date->tm_mon = date->tm_year = value;
   return date;
 }
 
-std::string lowerHex(int value) {
-  char digits[2];
-  const auto [end, error] = std::to_chars(digits, digits + sizeof digits, value, 16);
-  return std::string(digits, end);
-}
-
-}  // namespace
-
-int ToviTraffic::setDeviceName(const char* name) {
-  Operation operation(*this, "setDeviceName");
-  if (name == nullptr) return operation.refuse("name is null");
-  return operation.set(bytes({0}) + name);
-}
-
-char* ToviTraffic::getDeviceName() {
-  return Operation(*this, "getDeviceName").ask(atLeast(3), bytes({1})).newText(2);
-}
-
-char* ToviTraffic::getDeviceVersion() {
-  return Operation(*this, "getDeviceVersion").ask(atLeast(1)).newText(1);
-}
-
-std::string ToviTraffic::getSn() { return Operation(*this, "getSn").ask(atLeast(1)).text(1); }
-
-std::string ToviTraffic::getMac() {
-  const Reply reply = Operation(*this, "getMac").ask(exactly(7));
-  std::string text;
-  for (int n = 1; n < reply.size(); ++n) {
-    if (n > 1) text += ':';
-    text += lowerHex(reply.unsignedByte(n));
-  }
-  return text;
-}
-
-DeviceType* ToviTraffic::getDeviceType() {
-  const Reply reply = Operation(*this, "getDeviceType").ask(exactly(kStatusSize));
-  if (!reply) return nullptr;
-  std::unique_ptr<DeviceType> status(new DeviceType);
-  status->setDate(newDate(reply.signedByte(7)));
+DeviceType* newStatus(const Reply& reply) {
+  auto date = newDate(reply.signedByte(7));
+  auto status = std::make_unique<DeviceType>();
+  status->setDate(date.release());
   status->setBoxDoorOpen(reply.isOne(8));
   status->setScreenPowerOpen(reply.isOne(9));
   status->setScreenOpen(reply.signedByte(10));
@@ -71,16 +35,65 @@ DeviceType* ToviTraffic::getDeviceType() {
   return status.release();
 }
 
+// Without leading zeros: hosts compare these texts.
+std::string addressText(const Reply& reply) {
+  std::string text;
+  for (int n = 1; n < reply.size(); ++n) {
+    char digits[2];
+    const auto end = std::to_chars(digits, digits + sizeof digits, reply.unsignedByte(n), 16).ptr;
+    text.append(n > 1 ? ":" : "").append(digits, end);
+  }
+  return text;
+}
+
+}  // namespace
+
+int ToviTraffic::setDeviceName(const char* name) {
+  Operation operation(*this, "setDeviceName");
+  if (name == nullptr) return operation.refuse("name is null");
+  return operation.set(0, name);
+}
+
+char* ToviTraffic::getDeviceName() {
+  char* const none = nullptr;
+  const auto name = [](const Reply& reply) { return reply.newText(2); };
+  return Operation(*this, "getDeviceName").ask(atLeast(3), none, name, 1);
+}
+
+char* ToviTraffic::getDeviceVersion() {
+  char* const none = nullptr;
+  return Operation(*this, "getDeviceVersion").ask(atLeast(1), none, [](const Reply& reply) {
+    return reply.newText(1);
+  });
+}
+
+std::string ToviTraffic::getSn() {
+  return Operation(*this, "getSn").ask(atLeast(1), std::string(), [](const Reply& reply) {
+    return reply.text(1);
+  });
+}
+
+std::string ToviTraffic::getMac() {
+  return Operation(*this, "getMac").ask(exactly(7), std::string(), addressText);
+}
+
+DeviceType* ToviTraffic::getDeviceType() {
+  DeviceType* const none = nullptr;
+  return Operation(*this, "getDeviceType").ask(exactly(kStatusSize), none, newStatus);
+}
+
 DeviceMemorySize ToviTraffic::getDeviceMemorySize() {
-  const Reply reply = Operation(*this, "getDeviceMemorySize").ask(atLeast(9));
-  DeviceMemorySize size;
-  if (reply) size = {reply.integer(1), reply.integer(5)};
-  return size;
+  return Operation(*this, "getDeviceMemorySize")
+      .ask(atLeast(9), DeviceMemorySize(), [](const Reply& reply) {
+        return DeviceMemorySize{reply.integer(1), reply.integer(5)};
+      });
 }
 
 CpuAndMemoryInfo ToviTraffic::getCpuAndMemoryInfo() {
-  const JsonReply reply(Operation(*this, "getCpuAndMemoryInfo"));
-  return {reply.result(), reply.text("cpuUsage"), reply.text("diskTotal"), reply.text("diskFree")};
+  return askJson<CpuAndMemoryInfo>(Operation(*this, "getCpuAndMemoryInfo"), [](JsonReply& reply) {
+    return CpuAndMemoryInfo{0, reply.text("cpuUsage"), reply.text("diskTotal"),
+                            reply.text("diskFree")};
+  });
 }
 
 std::string ToviTraffic::getSystemInfo() { return Operation(*this, "getSystemInfo").askText(); }

@@ -1,28 +1,76 @@
-// Replies whose text is JSON.
+// Replies and requests whose text is JSON.
 #pragma once
 
-#include <cstdlib>
+#include <new>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "json/json_object.h"
 #include "session/operation.h"
 
 namespace tovi::device {
 
-// The JSON of a reply, and whether the controller accepted the question. Text that is no JSON gives
-// an object without members, which makes every value empty or 0.
+// The whole number that a text begins with, as atoi reads it: 0 when there is none. Nothing when no
+// int holds it.
+std::optional<int> numberIn(std::string_view text);
+
+// The members of a reply's JSON, each as a record has it.
 class JsonReply {
  public:
-  explicit JsonReply(session::Operation operation)
-      : mObject(operation.askText()), mAccepted(operation.outcome() == ToviOutcome::Done) {}
+  explicit JsonReply(std::string_view text)
+      : mUsable(mObject.parseText(text) && !mObject.isArray()) {}
 
-  int result() const { return mAccepted ? 1 : 0; }
+  // Empty when it is missing.
   std::string text(const char* key) const { return mObject.valueText(key); }
-  int number(const char* key) const { return std::atoi(text(key).c_str()); }
+
+  // 0 when it is missing. A number that no int holds is no usable value, and 0 as well.
+  int number(const char* key) {
+    const std::optional<int> number = numberIn(text(key));
+    mUsable = mUsable && number;
+    return number.value_or(0);
+  }
+
+  // Whether everything so far could be read.
+  bool isUsable() const { return mUsable; }
 
  private:
   CJsonObject mObject;
-  bool mAccepted;
+  bool mUsable;
+};
+
+// Asks for a record that stands in JSON. Its result is 1 when the controller accepted the question,
+// whatever can be read of the answer.
+template <class Record, class Decode>
+Record askJson(session::Operation operation, Decode decode) {
+  return operation.guarded(Record(), [&] {
+    const std::string text = operation.askText();
+    if (operation.outcome() != ToviOutcome::Done) return Record();
+    JsonReply reply(text);
+    Record record = decode(reply);
+    record.result = 1;
+    if (!reply.isUsable()) operation.end(ToviOutcome::BadReply);
+    return record;
+  });
+}
+
+// The text of a request.
+class JsonRequest {
+ public:
+  JsonRequest& number(const char* key, int value) { return checked(mObject.addInt(key, value)); }
+  JsonRequest& text(const char* key, const char* value) {
+    return checked(mObject.addText(key, value));
+  }
+  std::string toText() const { return mObject.toText(); }
+
+ private:
+  // Half a request must not go out.
+  JsonRequest& checked(bool added) {
+    if (!added) throw std::bad_alloc();
+    return *this;
+  }
+
+  CJsonObject mObject;
 };
 
 }  // namespace tovi::device

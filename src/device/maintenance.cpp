@@ -1,4 +1,7 @@
 // Restart, clean state, and what only service staff use.
+#include <memory>
+
+#include "foundation/bytes.h"
 #include "session/operation.h"
 
 using namespace tovi;
@@ -16,14 +19,14 @@ constexpr int kSet = 1;
 
 int ToviTraffic::restartDevice() { return Operation(*this, "restartDevice").set(); }
 
-void ToviTraffic::sendHeartBeat() { Operation(*this, "sendHeartBeat").set(bytes({0})); }
+void ToviTraffic::sendHeartBeat() { Operation(*this, "sendHeartBeat").set(0); }
 
 int ToviTraffic::setCloseScreenTemperature(int temperature) {
   Operation operation(*this, "setCloseScreenTemperature");
   if (temperature < 0 || temperature > kMaxCloseTemperature) {
     return operation.refuse("the temperature is not 0 to 150");
   }
-  return operation.set(bytes({0, 0, 0, 0, 0, temperature}));
+  return operation.set(0, 0, 0, 0, 0, temperature);
 }
 
 int ToviTraffic::getCloseScreenTemperature() {
@@ -33,30 +36,37 @@ int ToviTraffic::getCloseScreenTemperature() {
 }
 
 int ToviTraffic::solidify(unsigned char value) {
-  return Operation(*this, "solidify").askFlag(bytes({value}));
+  return Operation(*this, "solidify").confirm(value);
 }
 
-int ToviTraffic::backups() { return Operation(*this, "backups").askByte(3, bytes({kSet})); }
+int ToviTraffic::backups() { return Operation(*this, "backups").askByte(3, kSet); }
 
 BackUpsInfo* ToviTraffic::getBackupsTimes() {
-  const Reply reply = Operation(*this, "getBackupsTimes").ask(atLeast(5), bytes({kQuery}));
-  BackUpsInfo* info = new BackUpsInfo;
-  if (!reply) return info;
-  info->state = reply.signedByte(3);
-  if (info->state == 1) info->times = hexText(reply.from(4));
-  return info;
+  Operation operation(*this, "getBackupsTimes");
+  BackUpsInfo* const none = nullptr;
+  return operation.guarded(none, [&] {
+    auto info = std::make_unique<BackUpsInfo>();
+    const auto decode = [&](const Reply& reply) {
+      if (reply.signedByte(3) == 1) info->times = hexText(reply.from(4));
+      info->state = reply.signedByte(3);
+      return true;
+    };
+    operation.ask(atLeast(5), false, decode, kQuery);
+    return info.release();
+  });
 }
 
 int ToviTraffic::setSSHEnabled(bool on) {
-  return Operation(*this, "setSSHEnabled").askFlag(bytes({kSet, on}));
+  return Operation(*this, "setSSHEnabled").confirm(kSet, on);
 }
 
 int ToviTraffic::getSSHEnabled() {
   Operation operation(*this, "getSSHEnabled");
-  const Reply reply = operation.ask(atLeast(4), bytes({kQuery}));
-  if (!reply) return -1;
-  if (reply.unsignedByte(2) != 0) return operation.end(ToviOutcome::Rejected, -1);
-  return reply.unsignedByte(3) != 0 ? 1 : 0;
+  const auto enabled = [&](const Reply& reply) {
+    if (reply.unsignedByte(2) != 0) return operation.end(ToviOutcome::Rejected, -1);
+    return reply.unsignedByte(3) != 0 ? 1 : 0;
+  };
+  return operation.ask(atLeast(4), -1, enabled, kQuery);
 }
 
 std::string ToviTraffic::getLogZipPath() { return Operation(*this, "getLogZipPath").askText(); }
@@ -72,4 +82,4 @@ int ToviTraffic::removeAppPageName(const std::string& package) {
   return package.empty() ? operation.refuse("the name is empty") : operation.setText(package);
 }
 
-int ToviTraffic::clearCache() { return Operation(*this, "clearCache").askFlag(); }
+int ToviTraffic::clearCache() { return Operation(*this, "clearCache").confirm(); }

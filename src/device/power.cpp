@@ -1,7 +1,6 @@
 // Power and relays.
 #include "session/operation.h"
 
-using namespace tovi;
 using namespace tovi::session;
 
 namespace {
@@ -11,31 +10,29 @@ constexpr int onOrOff(bool on) { return on ? 1 : 2; }
 
 }  // namespace
 
-int ToviTraffic::setPower(bool on) {
-  return Operation(*this, "setPower").set(bytes({onOrOff(on)}));
-}
+int ToviTraffic::setPower(bool on) { return Operation(*this, "setPower").set(onOrOff(on)); }
 
 int ToviTraffic::setBoardPower(bool on) {
-  return Operation(*this, "setBoardPower").set(bytes({onOrOff(on)}));
+  return Operation(*this, "setBoardPower").set(onOrOff(on));
 }
 
 int ToviTraffic::setBoardPowerAndScreenPower(bool on) {
-  return Operation(*this, "setBoardPowerAndScreenPower").set(bytes({on}));
+  return Operation(*this, "setBoardPowerAndScreenPower").set(on);
 }
 
 int ToviTraffic::setMultiFunctionCardPower(int a, int b, bool c) {
-  return Operation(*this, "setMultiFunctionCardPower").set(bytes({a, b, c}));
+  return Operation(*this, "setMultiFunctionCardPower").set(a, b, c);
 }
 
 int ToviTraffic::setRelayPowers(bool relay1, bool relay2, bool relay3, bool relay4) {
   return Operation(*this, "setRelayPowers")
-      .set(bytes({onOrOff(relay1), onOrOff(relay2), onOrOff(relay3), onOrOff(relay4)}));
+      .set(onOrOff(relay1), onOrOff(relay2), onOrOff(relay3), onOrOff(relay4));
 }
 
 int ToviTraffic::getPowerState() { return Operation(*this, "getPowerState").askFlag(); }
 
 int ToviTraffic::getScreenStatus() {
-  const Reply reply = Operation(*this, "getScreenStatus").ask(atLeast(2));
-  if (!reply) return -1;
-  return onOrOff(reply.isOne(1));
+  return Operation(*this, "getScreenStatus").ask(atLeast(2), -1, [](const Reply& reply) {
+    return onOrOff(reply.isOne(1));
+  });
 }

@@ -57,10 +57,8 @@ std::string encodeList(const std::list<Entry>& list) {
 
 // Announced entries that the reply does not hold whole are left out.
 template <class Entry>
-std::list<Entry>* askList(Operation operation) {
+std::list<Entry>* newList(const Reply& reply) {
   constexpr int kEntrySize = 2 * kTimeSize + tailSize(static_cast<const Entry*>(nullptr));
-  const Reply reply = operation.ask(atLeast(kEntriesOffset));
-  if (!reply) return nullptr;
   auto list = std::make_unique<std::list<Entry>>();
   const int count = reply.signedByte(1);
   for (int i = 0; i < count && kEntriesOffset + (i + 1) * kEntrySize <= reply.size(); ++i) {
@@ -74,10 +72,16 @@ std::list<Entry>* askList(Operation operation) {
   return list.release();
 }
 
+template <class Entry>
+std::list<Entry>* askList(Operation operation) {
+  std::list<Entry>* const none = nullptr;
+  return operation.ask(atLeast(kEntriesOffset), none, newList<Entry>);
+}
+
 }  // namespace
 
 int ToviTraffic::setDevicePowerByTimeList(std::list<DevicePowerByTimeParam> list) {
-  return Operation(*this, "setDevicePowerByTimeList").set(encodeList(list));
+  return Operation(*this, "setDevicePowerByTimeList").set([&] { return encodeList(list); });
 }
 
 std::list<DevicePowerByTimeParam>* ToviTraffic::getDevicePowerByTimeList() {
@@ -85,7 +89,7 @@ std::list<DevicePowerByTimeParam>* ToviTraffic::getDevicePowerByTimeList() {
 }
 
 int ToviTraffic::setPlayByTimeList(std::list<PlayByTimeParam> list) {
-  return Operation(*this, "setPlayByTimeList").set(encodeList(list));
+  return Operation(*this, "setPlayByTimeList").set([&] { return encodeList(list); });
 }
 
 std::list<PlayByTimeParam>* ToviTraffic::getPlayByTimeList() {
@@ -94,7 +98,7 @@ std::list<PlayByTimeParam>* ToviTraffic::getPlayByTimeList() {
 
 int ToviTraffic::setBrightnessByTimeList(std::list<BrightnessByTimeParam> list) {
   return Operation(*this, "setBrightnessByTimeList")
-      .setAfter("setBrightness", bytes({kByTimetable, 0}), encodeList(list));
+      .setAfter("setBrightness", bytes({kByTimetable, 0}), [&] { return encodeList(list); });
 }
 
 std::list<BrightnessByTimeParam>* ToviTraffic::getBrightnessByTimeList() {
@@ -106,9 +110,7 @@ int ToviTraffic::setAdvanceTiming(const std::string& timing) {
 }
 
 std::string ToviTraffic::getAdvanceTiming() {
-  return Operation(*this, "getAdvanceTiming").askText(bytes({1}));
+  return Operation(*this, "getAdvanceTiming").askText(1);
 }
 
-int ToviTraffic::removeAdvanceTiming() {
-  return Operation(*this, "removeAdvanceTiming").set(bytes({1}));
-}
+int ToviTraffic::removeAdvanceTiming() { return Operation(*this, "removeAdvanceTiming").set(1); }

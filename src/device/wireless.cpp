@@ -1,11 +1,20 @@
 // Wireless network, mobile network, and radio.
 #include "session/operation.h"
 
-using namespace tovi;
 using namespace tovi::session;
 
+namespace {
+
+// Digits travel as their values.
+std::string shifted(std::string digits, int by) {
+  for (char& digit : digits) digit = static_cast<char>(digit + by);
+  return digits;
+}
+
+}  // namespace
+
 bool ToviTraffic::setWifiState(bool on) {
-  return Operation(*this, "setWifiState").set(bytes({on})) == SUCCESS;
+  return Operation(*this, "setWifiState").set(on) == SUCCESS;
 }
 
 int ToviTraffic::getWifiState() { return Operation(*this, "getWifiState").askByte(1); }
@@ -16,9 +25,7 @@ int ToviTraffic::connectWifi(const std::string& connection) {
   return Operation(*this, "connectWifi").setText(connection);
 }
 
-int ToviTraffic::setWifiApState(bool on) {
-  return Operation(*this, "setWifiApState").set(bytes({on}));
-}
+int ToviTraffic::setWifiApState(bool on) { return Operation(*this, "setWifiApState").set(on); }
 
 int ToviTraffic::getWifiApState() { return Operation(*this, "getWifiApState").askByte(1); }
 
@@ -32,7 +39,7 @@ std::string ToviTraffic::getMobileInfo() { return Operation(*this, "getMobileInf
 
 std::string ToviTraffic::getSimInfo() { return Operation(*this, "getSimInfo").askText(); }
 
-int ToviTraffic::switchToSoftsim() { return Operation(*this, "switchToSoftsim").askFlag(); }
+int ToviTraffic::switchToSoftsim() { return Operation(*this, "switchToSoftsim").confirm(); }
 
 int ToviTraffic::setLoraInfo(const std::string& info) {
   return Operation(*this, "setLoraInfo").setText(info);
@@ -47,14 +54,10 @@ ResultParam ToviTraffic::getLoraInfo() {
 }
 
 int ToviTraffic::setRDSRoad(const std::string& digits) {
-  std::string values = digits;
-  for (char& digit : values) digit = static_cast<char>(digit - '0');
-  return Operation(*this, "setRDSRoad").set(values);
+  return Operation(*this, "setRDSRoad").set([&] { return shifted(digits, -'0'); });
 }
 
 std::string ToviTraffic::getRDSRoad() {
-  const Reply reply = Operation(*this, "getRDSRoad").ask(atLeast(1), bytes({1}));
-  std::string digits;
-  for (int n = 0; n < reply.size(); ++n) digits += static_cast<char>(reply.unsignedByte(n) + '0');
-  return digits;
+  const auto decode = [](const Reply& reply) { return shifted(std::string(reply.from(0)), '0'); };
+  return Operation(*this, "getRDSRoad").ask(atLeast(1), std::string(), decode, 1);
 }

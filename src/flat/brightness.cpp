@@ -1,5 +1,5 @@
 // Brightness and volume.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/grammar.h"
@@ -15,10 +15,11 @@ char* getBrightnessInfo(const char* ip, unsigned short port) {
 }
 
 const char* setBrightnessAuto(const char* ip, unsigned short port, const char* points) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    BrightnessItem curve = parseCurve(points);
+  const auto set = [](ToviTraffic& session, const char* text) {
+    BrightnessItem curve = parseCurve(text);
     return session.setBrightnessAuto(&curve);
-  });
+  };
+  return status({__func__, ip, port}, set, points);
 }
 
 char* getBrightnessAuto(const char* ip, unsigned short port) {

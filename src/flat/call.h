@@ -10,6 +10,7 @@
 #include <tovisdk/tovi_traffic.h>
 
 #include "flat/report_text.h"
+#include "foundation/memory.h"
 
 namespace tovi::flat {
 
@@ -23,28 +24,33 @@ struct Caller {
   unsigned short port;
 };
 
-// Hosts may pass null where they mean nothing.
-inline const char* textOf(const char* text) { return text == nullptr ? "" : text; }
-
 void logStart(const Caller& caller);
 
-// Runs `use` on a session of its own; what it returns, or `otherwise` when it could not be carried
-// out.
+// Runs `use` on a session of its own; what it returns, or `otherwise` when there was no memory.
 template <class Result, class Use>
 Result withSession(const Caller& caller, Result otherwise, Use use) {
-  try {
-    logStart(caller);
-    ToviTraffic session(textOf(caller.ip), caller.port);
+  logStart(caller);
+  return whereMemoryAllows(otherwise, [&]() -> Result {
+    ToviTraffic session(caller.ip == nullptr ? "" : caller.ip, caller.port);
     return use(session);
-  } catch (...) {
-    return otherwise;
-  }
+  });
 }
+
+// A null text is no argument: "no timetable" is an empty one.
+template <class Argument>
+bool isMissing(const Argument&) {
+  return false;
+}
+inline bool isMissing(const char* text) { return text == nullptr; }
+
+// Says so in the log, and gives the answer.
+const char* refuseNull(const Caller& caller, const char* answer);
 
 // Of a method that returns its code, or whether it worked.
 template <class Method, class... Arguments>
 const char* status(const Caller& caller, Method method, const Arguments&... arguments) {
   return withSession<const char*>(caller, kFailed, [&](ToviTraffic& session) {
+    if ((isMissing(arguments) || ...)) return refuseNull(caller, kFailed);
     const auto result = static_cast<int>(std::invoke(method, session, arguments...));
     return result == ToviTraffic::SUCCESS ? kSuccess : kFailed;
   });
@@ -54,6 +60,7 @@ const char* status(const Caller& caller, Method method, const Arguments&... argu
 template <class Method, class... Arguments>
 const char* always(const Caller& caller, Method method, const Arguments&... arguments) {
   return withSession<const char*>(caller, kSuccess, [&](ToviTraffic& session) {
+    if ((isMissing(arguments) || ...)) return refuseNull(caller, kSuccess);
     std::invoke(method, session, arguments...);
     return kSuccess;
   });
@@ -76,7 +83,7 @@ char* value(const Caller& caller, Method method) {
 template <class Method, class... Arguments>
 char* report(const Caller& caller, Method method, const Arguments&... arguments) {
   return value(caller, [&](ToviTraffic& session) {
-    return reportText(std::invoke(method, session, arguments...)) + kReportEnd;
+    return ended(reportText(std::invoke(method, session, arguments...)));
   });
 }
 
@@ -84,7 +91,7 @@ char* report(const Caller& caller, Method method, const Arguments&... arguments)
 template <class Entry>
 char* timetable(const Caller& caller, std::list<Entry>* (ToviTraffic::*method)()) {
   return value(caller, [&](ToviTraffic& session) {
-    return timetableText(caller.function, std::invoke(method, session)) + kReportEnd;
+    return ended(timetableText(caller.function, std::invoke(method, session)));
   });
 }
 

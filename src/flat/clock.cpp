@@ -1,5 +1,5 @@
 // The clock.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/grammar.h"
@@ -7,17 +7,19 @@
 using namespace tovi::flat;
 
 const char* setTime(const char* ip, unsigned short port, const char* time) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    std::tm fields = parseDateTime(textOf(time));
+  const auto set = [](ToviTraffic& session, const char* text) {
+    std::tm fields = parseDateTime(text);
     return session.setTime(&fields);
-  });
+  };
+  return status({__func__, ip, port}, set, time);
 }
 
 const char* setTimeAndTimeZone(const char* ip, unsigned short port, int time, const char* zoneId,
                                const char* utcOffset) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setTimeAndTimeZone({time, textOf(zoneId), textOf(utcOffset)});
-  });
+  const auto set = [time](ToviTraffic& session, const char* zone, const char* offset) {
+    return session.setTimeAndTimeZone({time, zone, offset});
+  };
+  return status({__func__, ip, port}, set, zoneId, utcOffset);
 }
 
 char* getTimeAndTimeZone(const char* ip, unsigned short port) {
@@ -26,9 +28,10 @@ char* getTimeAndTimeZone(const char* ip, unsigned short port) {
 
 const char* setDeviceNTPParam(const char* ip, unsigned short port, unsigned char enabled,
                               const char* server) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setDeviceNTPParam({enabled != 0, textOf(server)});
-  });
+  const auto set = [enabled](ToviTraffic& session, const char* name) {
+    return session.setDeviceNTPParam({enabled != 0, name});
+  };
+  return status({__func__, ip, port}, set, server);
 }
 
 char* getDeviceNTPParam(const char* ip, unsigned short port) {

@@ -1,5 +1,5 @@
 // Display and video.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/grammar.h"
@@ -7,8 +7,10 @@
 using namespace tovi::flat;
 
 const char* setEdidInfo(const char* ip, unsigned short port, const char* info) {
-  return status({__func__, ip, port},
-                [&](ToviTraffic& session) { return session.setEdidInfo(parseEdidInfo(info)); });
+  const auto set = [](ToviTraffic& session, const char* text) {
+    return session.setEdidInfo(parseEdidInfo(text));
+  };
+  return status({__func__, ip, port}, set, info);
 }
 
 char* getEdidInfo(const char* ip, unsigned short port) {
@@ -32,7 +34,8 @@ char* startScreenPointDetect(const char* ip, unsigned short port) {
 }
 
 char* getDetectErrorPointInfo(const char* ip, unsigned short port) {
-  return report({__func__, ip, port}, &ToviTraffic::getDetectErrorPointInfo);
+  return value({__func__, ip, port},
+               [](ToviTraffic& session) { return ended(session.getDetectErrorPointInfo()); });
 }
 
 const char* setCustomResolution(const char* ip, unsigned short port) {

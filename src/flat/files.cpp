@@ -1,13 +1,15 @@
 // Files.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
 const char* sendFile(const char* ip, unsigned short port, const char* path, const char* name) {
-  return status({__func__, ip, port},
-                [&](ToviTraffic& session) { return session.sendFile(textOf(path), textOf(name)); });
+  const auto set = [](ToviTraffic& session, const char* file, const char* storedAs) {
+    return session.sendFile(file, storedAs);
+  };
+  return status({__func__, ip, port}, set, path, name);
 }
 
 char* getFileListName(const char* ip, unsigned short port, char type) {

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "flat/call.h"
+#include "foundation/text.h"
 
 namespace tovi::flat {
 namespace {
@@ -15,7 +15,7 @@ namespace {
 // The tokens of a text; asking for one that is not there gives an empty one.
 class Tokens {
  public:
-  Tokens(const std::string& text, const char* separator) : mTokens(split(text, separator)) {}
+  Tokens(const std::string& text, const char* separator) : mTokens(fieldsOf(text, separator)) {}
 
   std::size_t size() const { return mTokens.size(); }
   std::string text(std::size_t n) const { return n < mTokens.size() ? mTokens[n] : ""; }
@@ -26,7 +26,7 @@ class Tokens {
   std::vector<std::string> mTokens;
 };
 
-Tokens tokensOf(const char* text) { return Tokens(textOf(text), " "); }
+Tokens tokensOf(const char* text) { return Tokens(text, " "); }
 
 // One entry for each whole group of tokens; `make` gets the number of the group's first.
 template <class Entry, class Make>

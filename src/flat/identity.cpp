@@ -1,12 +1,12 @@
 // Identity and status.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
 const char* setDeviceName(const char* ip, unsigned short port, const char* name) {
-  return always({__func__, ip, port}, &ToviTraffic::setDeviceName, textOf(name));
+  return always({__func__, ip, port}, &ToviTraffic::setDeviceName, name);
 }
 
 char* getDeviceName(const char* ip, unsigned short port) {

@@ -1,5 +1,5 @@
 // Maintenance.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/labels.h"
@@ -25,7 +25,7 @@ char* getCloseScreenTemperature(const char* ip, unsigned short port) {
 }
 
 const char* removeAppPageName(const char* ip, unsigned short port, const char* package) {
-  return status({__func__, ip, port}, &ToviTraffic::removeAppPageName, textOf(package));
+  return status({__func__, ip, port}, &ToviTraffic::removeAppPageName, package);
 }
 
 const char* setSSHEnabled(const char* ip, unsigned short port) {

@@ -1,5 +1,5 @@
 // The network.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
@@ -8,18 +8,19 @@ using namespace tovi::flat;
 const char* setDeviceNetBasicParam(const char* ip, unsigned short port, const char* newIp,
                                    const char* netmask, const char* gateway, int devicePort,
                                    const char* serverIp) {
-  return always({__func__, ip, port}, [&](ToviTraffic& session) {
-    session.setDeviceNetBasicParam(
-        {textOf(newIp), textOf(netmask), textOf(gateway), devicePort, textOf(serverIp)});
-  });
+  const auto use = [devicePort](ToviTraffic& session, const char* own, const char* mask,
+                                const char* router, const char* server) {
+    session.setDeviceNetBasicParam({own, mask, router, devicePort, server});
+  };
+  return always({__func__, ip, port}, use, newIp, netmask, gateway, serverIp);
 }
 
 const char* resetDeviceIpToDefault(const char* ip, unsigned short port) {
   return always({__func__, ip, port}, &ToviTraffic::resetDeviceIpToDefault);
 }
 
-const char* setVirtualConnection(const char* ip, unsigned short port, bool on, int interval,
-                                 int value) {
+const char* setVirtualConnection(const char* ip, unsigned short port, unsigned char on,
+                                 int interval, int value) {
   return status({__func__, ip, port}, &ToviTraffic::setVirtualConnection, on, interval, value);
 }
 

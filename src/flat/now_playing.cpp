@@ -1,5 +1,5 @@
 // What is playing.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 

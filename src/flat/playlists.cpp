@@ -1,12 +1,12 @@
 // Playlists.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
 const char* sendPlayList(const char* ip, unsigned short port, int number, const char* text) {
-  return status({__func__, ip, port}, &ToviTraffic::sendPlayList, number, textOf(text));
+  return status({__func__, ip, port}, &ToviTraffic::sendPlayList, number, text);
 }
 
 const char* playListById(const char* ip, unsigned short port, int id) {

@@ -1,28 +1,29 @@
 // Power and relays.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
-const char* setPower(const char* ip, unsigned short port, bool on) {
+const char* setPower(const char* ip, unsigned short port, unsigned char on) {
   return status({__func__, ip, port}, &ToviTraffic::setPower, on);
 }
 
-const char* setBoardPower(const char* ip, unsigned short port, bool on) {
+const char* setBoardPower(const char* ip, unsigned short port, unsigned char on) {
   return status({__func__, ip, port}, &ToviTraffic::setBoardPower, on);
 }
 
-const char* setBoardPowerAndScreenPower(const char* ip, unsigned short port, bool on) {
+const char* setBoardPowerAndScreenPower(const char* ip, unsigned short port, unsigned char on) {
   return status({__func__, ip, port}, &ToviTraffic::setBoardPowerAndScreenPower, on);
 }
 
-const char* setMultiFunctionCardPower(const char* ip, unsigned short port, int a, int b, bool c) {
+const char* setMultiFunctionCardPower(const char* ip, unsigned short port, int a, int b,
+                                      unsigned char c) {
   return status({__func__, ip, port}, &ToviTraffic::setMultiFunctionCardPower, a, b, c);
 }
 
-const char* setRelayPowers(const char* ip, unsigned short port, bool relay1, bool relay2,
-                           bool relay3, bool relay4) {
+const char* setRelayPowers(const char* ip, unsigned short port, unsigned char relay1,
+                           unsigned char relay2, unsigned char relay3, unsigned char relay4) {
   return status({__func__, ip, port}, &ToviTraffic::setRelayPowers, relay1, relay2, relay3, relay4);
 }
 

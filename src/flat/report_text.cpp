@@ -1,5 +1,9 @@
 #include "flat/report_text.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 #include "flat/labels.h"
 #include "foundation/log.h"
 #include "platform/text.h"
@@ -35,9 +39,30 @@ std::string playingText(int id, const char* content) {
   return line("play id:", id) + line("play content:", gbk(content == nullptr ? "" : content));
 }
 
+// The byte 80 alone stands for a currency sign in Windows' own table; no text of GBK has it.
+bool isGbk(const std::string& text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (byte == 0x80) return false;
+    if (byte > 0x80) ++i;
+  }
+  return platform::gbkToUtf8(text).has_value();
+}
+
 }  // namespace
 
-std::string gbk(const std::string& text) { return platform::utf8ToGbk(text).value_or(text); }
+std::string gbk(const std::string& text) {
+  std::optional<std::string> converted = platform::utf8ToGbk(text);
+  if (!converted) return text;
+  // Without loss it reads back as it was. Short texts in GBK may pass for UTF-8 of rare characters.
+  const bool lossless = platform::gbkToUtf8(*converted) == text;
+  return lossless || !isGbk(text) ? *std::move(converted) : text;
+}
+
+std::string ended(std::string report) {
+  report.resize(std::min(report.find('\0'), report.size()));
+  return report += "interfaceEnd";
+}
 
 std::string reportText(const std::string& text) { return gbk(text); }
 

@@ -10,11 +10,14 @@
 
 namespace tovi::flat {
 
-// A controller's text as a report may hold it: UTF-8 becomes GBK, with "?" for what GBK lacks;
-// anything else stays as it came.
+// A controller's text as a report may hold it. UTF-8 becomes GBK when GBK has every character; what
+// is valid GBK already stays as it came; of other UTF-8, "?" stands for what GBK lacks; anything
+// else stays as it came.
 std::string gbk(const std::string& text);
 
-inline constexpr char kReportEnd[] = "interfaceEnd";
+// A report with the mark that ends it. Texts of a controller may hold a zero byte, where hosts stop
+// reading: the report ends there, too, so that they find the mark.
+std::string ended(std::string report);
 
 std::string reportText(const std::string& text);
 std::string reportText(char* text);  // which it releases

@@ -1,5 +1,5 @@
 // Secure mode.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/grammar.h"
@@ -7,14 +7,15 @@
 using namespace tovi::flat;
 
 const char* setDeviceKey(const char* ip, unsigned short port, const char* key) {
-  return always({__func__, ip, port}, &ToviTraffic::setDeviceKey, textOf(key));
+  return always({__func__, ip, port}, &ToviTraffic::setDeviceKey, key);
 }
 
 const char* setDeviceSecretParam(const char* ip, unsigned short port, const char* param,
-                                 bool includeSecondKey) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setDeviceSecretParam(parseSecretParam(param), includeSecondKey);
-  });
+                                 unsigned char includeSecondKey) {
+  const auto set = [includeSecondKey](ToviTraffic& session, const char* text) {
+    return session.setDeviceSecretParam(parseSecretParam(text), includeSecondKey != 0);
+  };
+  return status({__func__, ip, port}, set, param);
 }
 
 const char* getIsSecret(const char* ip, unsigned short port) {

@@ -1,16 +1,16 @@
 // Calls that have no effect on later ones.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
 const char* setDesKey(const char* ip, unsigned short port, const char* key) {
-  return always({__func__, ip, port}, &ToviTraffic::setDesKey, textOf(key));
+  return always({__func__, ip, port}, &ToviTraffic::setDesKey, key);
 }
 
 const char* setAesKey(const char* ip, unsigned short port, const char* key) {
-  return always({__func__, ip, port}, &ToviTraffic::setAesKey, textOf(key));
+  return always({__func__, ip, port}, &ToviTraffic::setAesKey, key);
 }
 
 const char* clearPassword(const char* ip, unsigned short port) {

@@ -1,5 +1,5 @@
 // Timetables.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 #include "flat/grammar.h"
@@ -9,9 +9,10 @@ using namespace tovi;
 using namespace tovi::flat;
 
 const char* setDevicePowerByTimeList(const char* ip, unsigned short port, const char* entries) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setDevicePowerByTimeList(parsePowerEntries(entries));
-  });
+  const auto set = [](ToviTraffic& session, const char* text) {
+    return session.setDevicePowerByTimeList(parsePowerEntries(text));
+  };
+  return status({__func__, ip, port}, set, entries);
 }
 
 char* getDevicePowerByTimeList(const char* ip, unsigned short port) {
@@ -19,9 +20,10 @@ char* getDevicePowerByTimeList(const char* ip, unsigned short port) {
 }
 
 const char* setPlayByTimeList(const char* ip, unsigned short port, const char* entries) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setPlayByTimeList(parsePlayEntries(entries));
-  });
+  const auto set = [](ToviTraffic& session, const char* text) {
+    return session.setPlayByTimeList(parsePlayEntries(text));
+  };
+  return status({__func__, ip, port}, set, entries);
 }
 
 char* getPlayByTimeList(const char* ip, unsigned short port) {
@@ -29,23 +31,24 @@ char* getPlayByTimeList(const char* ip, unsigned short port) {
 }
 
 const char* setBrightnessByTimeList(const char* ip, unsigned short port, const char* entries) {
-  return status({__func__, ip, port}, [&](ToviTraffic& session) {
-    return session.setBrightnessByTimeList(parseBrightnessEntries(entries));
-  });
+  const auto set = [](ToviTraffic& session, const char* text) {
+    return session.setBrightnessByTimeList(parseBrightnessEntries(text));
+  };
+  return status({__func__, ip, port}, set, entries);
 }
 
 char* getBrightnessByTimeList(const char* ip, unsigned short port) {
   return value({__func__, ip, port}, [name = __func__](ToviTraffic& session) {
     std::list<BrightnessByTimeParam>* list = session.getBrightnessByTimeList();
     const bool answered = list != nullptr;
-    const std::string text = timetableText(name, list) + kReportEnd;
+    const std::string text = ended(timetableText(name, list));
     if (answered) log::info("getBrightnessByTimeList result = %s", text.c_str());
     return text;
   });
 }
 
 const char* setAdvanceTiming(const char* ip, unsigned short port, const char* timing) {
-  return status({__func__, ip, port}, &ToviTraffic::setAdvanceTiming, textOf(timing));
+  return status({__func__, ip, port}, &ToviTraffic::setAdvanceTiming, timing);
 }
 
 char* getAdvanceTiming(const char* ip, unsigned short port) {

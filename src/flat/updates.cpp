@@ -1,12 +1,12 @@
 // Updates.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 
 using namespace tovi::flat;
 
 const char* sendLocalUpdate(const char* ip, unsigned short port, int type, const char* text) {
-  return status({__func__, ip, port}, &ToviTraffic::sendLocalUpdate, type, textOf(text));
+  return status({__func__, ip, port}, &ToviTraffic::sendLocalUpdate, type, text);
 }
 
 const char* removeLocalUpdate(const char* ip, unsigned short port, int type) {
@@ -14,11 +14,11 @@ const char* removeLocalUpdate(const char* ip, unsigned short port, int type) {
 }
 
 const char* sendFtpDownloadaddress(const char* ip, unsigned short port, const char* address) {
-  return status({__func__, ip, port}, &ToviTraffic::sendFtpDownloadaddress, textOf(address));
+  return status({__func__, ip, port}, &ToviTraffic::sendFtpDownloadaddress, address);
 }
 
 const char* updateFileName(const char* ip, unsigned short port, const char* name) {
-  return status({__func__, ip, port}, &ToviTraffic::updateFileName, textOf(name));
+  return status({__func__, ip, port}, &ToviTraffic::updateFileName, name);
 }
 
 const char* downloadFiles(const char* ip, unsigned short port) {

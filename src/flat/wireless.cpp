@@ -1,5 +1,5 @@
 // Wireless and mobile.
-#include <tovisdk/flat.h>
+#include "flat/flat_face.h"
 
 #include "flat/call.h"
 

@@ -1,82 +1,48 @@
-#include "foundation/log.h"
+// Hosts in other languages put any byte where C++ has a bool; here it is read as the byte it is.
+#define bool unsigned char
+#include <tovisdk/log_control.h>
+#undef bool
 
 #include <tovisdk/log.h>
+
+#include "foundation/log.h"
 
 #include <array>
 #include <atomic>
 #include <cstdio>
 #include <cstring>
+#include <exception>
+#include <iostream>
 #include <memory>
 #include <mutex>
-#include <string>
+#include <new>
 #include <string_view>
 
-#include "platform/files.h"
-#include "platform/system.h"
+#include "foundation/log_file.h"
+#include "foundation/memory.h"
 
 namespace tovi::log {
 namespace {
 
 constexpr std::size_t kMessageSize = 65535;  // a message's room, its closing zero included
 constexpr std::size_t kShortMessageSize = 1024;
-constexpr std::size_t kMaxFolder = 1000;
 
 std::atomic<int> gThreshold{0};
 std::atomic<bool> gRedact{false};
+std::atomic<bool> gConsole{true};
 
-// The folder that the host chose (empty: the default), and how often it changed.
-std::mutex gFolderMutex;
-std::array<char, kMaxFolder + 2> gFolder{};
-std::atomic<unsigned> gFolderChanges{0};
-
-// What records of one second share. Plain arrays, one per thread: a record takes no lock, and
-// nothing has to be destroyed when the library is unloaded.
-struct Moment {
-  std::time_t second = -1;
-  unsigned folderChanges = 0;
-  std::array<char, 64> stamp{};
-  std::array<char, 4096 + 128> path{};
-  std::size_t folderLength = 0;
+// Where the host wants records, if not in a file.
+struct Callback {
+  void (*record)(void* user, int level, const char* text) = nullptr;
+  void* user = nullptr;
 };
+std::mutex gCallbackMutex;
+Callback gCallback;
+std::atomic<bool> gHasCallback{false};
 
-std::string stampOf(const std::tm& time) {
-  std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", time.tm_year + 1900,
-                time.tm_mon + 1, time.tm_mday, time.tm_hour, time.tm_min, time.tm_sec);
-  return text.data();
-}
-
-std::string chosenFolder() {
-  const std::lock_guard lock(gFolderMutex);
-  return gFolder.data();
-}
-
-std::string logFolder() {
-  std::string chosen = chosenFolder();
-  if (!chosen.empty()) return chosen;
-  return platform::executableFolder() + "log" + platform::kPathSeparator;
-}
-
-void refresh(Moment& moment, std::time_t second, unsigned folderChanges) {
-  const std::tm time = platform::localTime(second);
-  std::snprintf(moment.stamp.data(), moment.stamp.size(), "%s", stampOf(time).c_str());
-  if (moment.second == -1 || moment.folderChanges != folderChanges) {
-    moment.folderLength = std::min(logFolder().copy(moment.path.data(), 4096), std::size_t{4096});
-  }
-  std::snprintf(moment.path.data() + moment.folderLength, moment.path.size() - moment.folderLength,
-                "tovisdk_%d-%02d-%02d.txt", time.tm_year + 1900, time.tm_mon + 1, time.tm_mday);
-  moment.second = second;
-  moment.folderChanges = folderChanges;
-}
-
-const Moment& currentMoment() {
-  thread_local Moment moment;
-  const std::time_t second = platform::now();
-  const unsigned folderChanges = gFolderChanges.load(std::memory_order_acquire);
-  if (moment.second != second || moment.folderChanges != folderChanges) {
-    refresh(moment, second, folderChanges);
-  }
-  return moment;
+Callback callback() {
+  const std::lock_guard lock(gCallbackMutex);
+  return gCallback;
 }
 
 const char* levelWord(Level level) {
@@ -93,23 +59,22 @@ const char* levelWord(Level level) {
   return "";
 }
 
-// The folder is made only once a record could not be written, which spares each record the question
-// whether it is there.
-void append(const Moment& moment, std::string_view record) {
-  const std::string path = moment.path.data();
-  if (platform::appendText(path, record)) return;
-  if (platform::makeFolder(path.substr(0, moment.folderLength))) platform::appendText(path, record);
+// A callback that makes the library log would be called for ever.
+void handOver(const Callback& callback, Level level, const char* message) {
+  thread_local bool inside = false;
+  if (inside) return;
+  inside = true;
+  callback.record(callback.user, static_cast<int>(level), message);
+  inside = false;
 }
 
-// The pattern of a record ends its line, and the writing ends it once more: an empty line stands
-// between records.
-void writeRecord(Level level, std::string_view message) {
-  const Moment& moment = currentMoment();
-  std::string record;
-  record.reserve(message.size() + 40);
-  record.append(moment.stamp.data()).append(" ").append(levelWord(level)).append(" ");
-  record.append(message).append("\n\n");
-  append(moment, record);
+// The message ends at its first zero byte.
+void writeRecord(Level level, const char* message) {
+  if (gHasCallback.load(std::memory_order_acquire)) {
+    const Callback host = callback();
+    if (host.record != nullptr) return handOver(host, level, message);
+  }
+  writeToFile(levelWord(level), message);
 }
 
 }  // namespace
@@ -123,11 +88,11 @@ void write(Level level, const char* format, std::va_list arguments) {
   if (length < 0) {
     writeRecord(level, format);
   } else if (static_cast<std::size_t>(length) < brief.size()) {
-    writeRecord(level, {brief.data(), static_cast<std::size_t>(length)});
+    writeRecord(level, brief.data());
   } else {
-    const std::unique_ptr<char[]> whole(new char[kMessageSize]);
-    std::vsnprintf(whole.get(), kMessageSize, format, again);
-    writeRecord(level, whole.get());
+    const std::unique_ptr<char[]> whole(new (std::nothrow) char[kMessageSize]);
+    if (whole != nullptr) std::vsnprintf(whole.get(), kMessageSize, format, again);
+    writeRecord(level, whole != nullptr ? whole.get() : brief.data());
   }
   va_end(again);
 }
@@ -155,6 +120,19 @@ void error(const char* format, ...) {
 
 const char* shownKey(const char* key) {
   return gRedact.load(std::memory_order_relaxed) ? "********" : key;
+}
+
+void print(std::string_view line) {
+  if (!gConsole.load(std::memory_order_relaxed)) return;
+  try {
+    // With its end in one piece: several threads print.
+    std::array<char, 64> whole;
+    const std::size_t size = line.copy(whole.data(), whole.size() - 1);
+    whole[size] = '\n';
+    std::cout.write(whole.data(), static_cast<std::streamsize>(size + 1)).flush();
+  } catch (const std::exception&) {
+    // A host may let its streams throw; no line is worth that.
+  }
 }
 
 }  // namespace tovi::log
@@ -188,24 +166,17 @@ void tovi_error(std::string format, ...) {
 }
 
 std::string get_current_time_s() {
-  return tovi::log::stampOf(tovi::platform::localTime(tovi::platform::now()));
+  return tovi::whereMemoryAllows(std::string(), tovi::log::currentStamp);
 }
 
 void tovi_set_log_level(int level) { tovi::log::gThreshold = level; }
 
-void tovi_set_log_folder(const char* folder) {
-  std::string chosen = folder == nullptr ? "" : folder;
-  if (chosen.size() > tovi::log::kMaxFolder) {
-    tovi::log::error("tovi_set_log_folder folder is longer than %d bytes",
-                     static_cast<int>(tovi::log::kMaxFolder));
-    return;
-  }
-  if (!chosen.empty() && chosen.back() != '/' && chosen.back() != tovi::platform::kPathSeparator) {
-    chosen += tovi::platform::kPathSeparator;
-  }
-  const std::lock_guard lock(tovi::log::gFolderMutex);
-  std::memcpy(tovi::log::gFolder.data(), chosen.c_str(), chosen.size() + 1);
-  tovi::log::gFolderChanges.fetch_add(1, std::memory_order_release);
+void tovi_set_log_redaction(unsigned char redact) { tovi::log::gRedact = redact != 0; }
+
+void tovi_set_log_callback(void (*record)(void* user, int level, const char* text), void* user) {
+  const std::lock_guard lock(tovi::log::gCallbackMutex);
+  tovi::log::gCallback = {record, user};
+  tovi::log::gHasCallback.store(record != nullptr, std::memory_order_release);
 }
 
-void tovi_set_log_redaction(bool redact) { tovi::log::gRedact = redact; }
+void tovi_set_console(int on) { tovi::log::gConsole = on != 0; }

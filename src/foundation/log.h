@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdarg>
+#include <string_view>
 
 namespace tovi::log {
 
@@ -17,5 +18,9 @@ void write(Level level, const char* format, std::va_list arguments);
 
 // A key's text as records may show it: itself, or asterisks once the host asked for that.
 const char* shownKey(const char* key);
+
+// A line of at most 63 characters on standard output, unless the host wants none there. Hosts read
+// these lines.
+void print(std::string_view line);
 
 }  // namespace tovi::log

@@ -1,6 +1,5 @@
 #include "json/json_object.h"
 
-#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -11,8 +10,6 @@ using tovi::json::Node;
 using tovi::json::NodeType;
 
 namespace {
-
-constexpr std::size_t kMaxErrorRemainder = 256;  // a reply may be long, a message must not be
 
 // Null when memory is out: adding reports that instead of throwing.
 std::unique_ptr<Node> makeNode(NodeType type) {
@@ -34,7 +31,7 @@ bool CJsonObject::parseText(std::string_view text) {
   auto result = tovi::json::parse(text);
   if (!result.root) {
     std::string message = "prase json string error at ";
-    message += text.substr(result.stop, kMaxErrorRemainder);
+    message += text.substr(result.stop);
     mErrorText = std::move(message);
     return false;
   }

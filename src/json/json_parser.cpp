@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-bool isPlain(char c) { return static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\'; }
+// Controllers write control characters as they are.
+bool isPlain(char c) { return c != '"' && c != '\\'; }
 
 // The whole of the text as a number; independent of the host's locale, unlike strtod and streams.
 template <typename Number>

@@ -29,9 +29,9 @@ void setTimeouts(Socket socket, int milliseconds);
 // The receive time-out that is set on the socket, in milliseconds; 0: none.
 int receiveTimeout(Socket socket);
 
-// Connects a socket of openSocket to a dotted IPv4 address and a port in host byte order, within
-// the time-out; 0 or less waits without limit. An address that is no dotted IPv4 text, or null,
-// fails.
+// Connects a socket of openSocket to an IPv4 address, in any form that inet_addr reads, and a port
+// in host byte order, within the time-out; 0 or less waits without limit. Names, nonsense and null
+// fail.
 bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs);
 
 // Sends everything within the time-out, in as many pieces as the system takes it; the number of

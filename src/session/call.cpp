@@ -13,4 +13,9 @@ int Call::refuse(const char* why) {
   return end(ToviOutcome::RefusedArgument, ToviTraffic::ARGUMENT_ERROR);
 }
 
+void Call::tellOutOfMemory() {
+  log::error("%s ended: out of memory", mMethod);
+  end(ToviOutcome::OutOfMemory);
+}
+
 }  // namespace tovi::session

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 #include "foundation/log.h"
 #include "platform/sockets.h"
@@ -15,9 +16,11 @@ constexpr int kDefaultTimeout = 20000;
 // A dotted IPv4 text and its closing zero, with room to spare.
 constexpr std::size_t kAddressSize = 20;
 
-// An address that does not fit is kept as the empty text, which no connection attempt accepts.
+// An address that does not fit is kept as the empty text, and one that there is no memory for as
+// none: no connection attempt accepts either.
 char* newAddress(const char* ip) {
-  char* address = new char[kAddressSize]();
+  char* address = new (std::nothrow) char[kAddressSize]();
+  if (address == nullptr) return nullptr;
   const std::size_t length = ip == nullptr ? kAddressSize : ::strnlen(ip, kAddressSize);
   if (length == kAddressSize) {
     tovi::log::error("ToviTraffic::ToviTraffic address refused");

@@ -8,6 +8,7 @@ namespace tovi::session {
 
 static_assert(ToviTraffic::TEMP_SIZE == wire::kShortReply);
 static_assert(ToviTraffic::BIG_SIZE == wire::kBigReply);
+static_assert(ToviTraffic::BIG_STRING_SIZE == wire::kTextReply);
 static_assert(ToviTraffic::SCREENSHOT_SIZE == wire::kPictureReply);
 
 int Session::set(short what, short rspWhat, std::string_view payload) {

@@ -2,10 +2,13 @@
 #include <tovisdk/tovi_traffic.h>
 
 #include <cstring>
+#include <new>
+#include <utility>
 
-#include "foundation/bytes.h"
 #include "foundation/log.h"
 #include "session/session.h"
+
+using tovi::session::Session;
 
 namespace {
 
@@ -24,57 +27,70 @@ void sayCleared(const char* slot, const char* text) {
   if (slot != nullptr) tovi::log::info("%s", text);
 }
 
-// Whether `password` is to be stored; a null one empties the slot.
-bool checkPassword(const char* password, const char* setter, char*& slot) {
-  if (password == nullptr) {
-    delete[] slot;
-    slot = nullptr;
-    tovi::log::info("ToviTraffic::%s password is null, reset encrypted mode", setter);
-    return false;
-  }
-  if (std::strlen(password) != kPasswordLength) {
-    tovi::log::warning("ToviTraffic::%s password length not equal 8", setter);
-    return false;
-  }
-  return true;
-}
+// One call of a setter, which writes its records in the name of one of them.
+class KeySetter {
+ public:
+  KeySetter(Session session, const char* recordName) : mSession(session), mName(recordName) {}
 
-void store(const char* password, char*& slot) {
-  char* copy = tovi::newArray(password);
-  delete[] slot;
-  slot = copy;
-}
+  // Whether `password` is to be stored; a null one empties the slot.
+  bool check(const char* password, char*& slot) {
+    mSession.end(ToviOutcome::Done);
+    if (password == nullptr) {
+      delete[] std::exchange(slot, nullptr);
+      tovi::log::info("ToviTraffic::%s password is null, reset encrypted mode", mName);
+      return false;
+    }
+    if (std::strlen(password) == kPasswordLength) return true;
+    tovi::log::warning("ToviTraffic::%s password length not equal 8", mName);
+    return mSession.end(ToviOutcome::RefusedArgument, false);
+  }
+
+  // False when memory is out, which leaves the slot as it is.
+  bool store(const char* password, char*& slot) {
+    char* copy = new (std::nothrow) char[kPasswordLength + 1];
+    if (copy == nullptr) return mSession.end(ToviOutcome::OutOfMemory, false);
+    std::memcpy(copy, password, kPasswordLength + 1);
+    delete[] std::exchange(slot, copy);
+    return true;
+  }
+
+ private:
+  Session mSession;
+  const char* mName;
+};
 
 }  // namespace
 
 void ToviTraffic::setDesKey(const char* password) {
   tovi::log::info("setDesKey start");
-  if (!checkPassword(password, "setDesKey", mDesKey)) return;
+  KeySetter setter(Session(*this), "setDesKey");
+  if (!setter.check(password, mDesKey)) return;
   sayCleared(mDesKey, kClearDesInDes);
   sayCleared(mAesKey, kClearAesInDes);
   sayCleared(mSm4Key, kClearAesInDes);
-  store(password, mDesKey);
+  if (!setter.store(password, mDesKey)) return;
   tovi::log::info("ToviTraffic::setDesKey set encrypted key, key = %s",
                   tovi::log::shownKey(mDesKey));
 }
 
 // Both setters write the records of setAesKey.
-void tovi::session::Session::storeAesOrSm4Key(const char* password, char*& slot) {
-  if (!checkPassword(password, "setAesKey", slot)) return;
+void Session::setAesOrSm4Key(const char* password, char*& slot) {
+  KeySetter setter(*this, "setAesKey");
+  if (!setter.check(password, slot)) return;
   sayCleared(mTraffic.mAesKey, kClearDesInAes);
   sayCleared(mTraffic.mDesKey, kClearAesInAes);
   sayCleared(mTraffic.mSm4Key, kClearAesInDes);
-  store(password, slot);
+  setter.store(password, slot);
 }
 
 void ToviTraffic::setAesKey(const char* password) {
   tovi::log::info("setAesKey start");
-  tovi::session::Session(*this).storeAesOrSm4Key(password, mAesKey);
+  Session(*this).setAesOrSm4Key(password, mAesKey);
 }
 
 void ToviTraffic::setSM4Key(const char* password) {
   tovi::log::info("setSM4Key start");
-  tovi::session::Session(*this).storeAesOrSm4Key(password, mSm4Key);
+  Session(*this).setAesOrSm4Key(password, mSm4Key);
 }
 
 void ToviTraffic::clearPassword() {

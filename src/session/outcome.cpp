@@ -18,6 +18,10 @@ const char* toviOutcomeText(ToviOutcome outcome) {
       return "refused by the controller";
     case ToviOutcome::LocalFile:
       return "a local file cannot be opened, read or written";
+    case ToviOutcome::Stopped:
+      return "stopped by the host";
+    case ToviOutcome::OutOfMemory:
+      return "out of memory";
   }
   return "unknown";
 }

@@ -1,6 +1,7 @@
 // The receive loop.
 #include <algorithm>
-#include <cstring>
+#include <memory>
+#include <new>
 
 #include "foundation/bytes.h"
 #include "foundation/log.h"
@@ -15,9 +16,14 @@ namespace {
 
 constexpr int kPauseMs = 500;
 
-// A parser owns the key it is given, so it gets a copy.
-ProtocalParser* newCipherParser(const char* key, int mode) {
-  return new ProtocalParser(newArray(key), mode);
+// A DES parser owns the key it is given, so it gets a copy. One that found no memory for its cipher
+// would take every reply for a plain one.
+ProtocalParser* newCipherParser(char* key, int mode) {
+  std::unique_ptr<char[]> copy(mode == wire::kDes ? newArray(key) : nullptr);
+  auto parser = std::make_unique<ProtocalParser>(copy != nullptr ? copy.get() : key, mode);
+  copy.release();  // the parser's
+  if (!wire::Receiver(*parser).hasCipher()) throw std::bad_alloc();
+  return parser.release();
 }
 
 }  // namespace

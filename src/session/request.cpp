@@ -8,33 +8,36 @@
 
 namespace tovi::session {
 
+// The first key that is set, for a request that may be enciphered.
+Session::Key Session::keyFor(short what) const {
+  if (what == wire::kIsSecret) return {wire::kPlain, nullptr};
+  if (mTraffic.mDesKey != nullptr) return {wire::kDes, mTraffic.mDesKey};
+  if (mTraffic.mAesKey != nullptr) return {wire::kAes, mTraffic.mAesKey};
+  if (mTraffic.mSm4Key != nullptr) return {wire::kSm4, mTraffic.mSm4Key};
+  return {wire::kPlain, nullptr};
+}
+
 std::string Session::frameOf(short what, std::string_view payload) const {
-  int mode = wire::kPlain;
-  const char* key = nullptr;
-  const bool mayBeEnciphered = what != wire::kIsSecret;
-  if (mTraffic.mDesKey != nullptr && mayBeEnciphered) {
-    mode = wire::kDes;
-    key = mTraffic.mDesKey;
-    log::info("ToviTraffic::makeSendPacket makeSendPacketEx des mode, des key = %s",
-              log::shownKey(key));
-  } else if (mTraffic.mAesKey != nullptr && mayBeEnciphered) {
-    mode = wire::kAes;
-    key = mTraffic.mAesKey;
-    log::info("ToviTraffic::makeSendPacket makeSendPacketEx aes mode, aes key = %s",
-              log::shownKey(key));
-  } else if (mTraffic.mSm4Key != nullptr && mayBeEnciphered) {
-    mode = wire::kSm4;
-    key = mTraffic.mSm4Key;
-    log::info("ToviTraffic::makeSendPacket makeSendPacketEx sm4 mode, sm4 key = %s",
-              log::shownKey(key));
-  } else {
+  const Key key = keyFor(what);
+  if (key.mode == wire::kPlain) {
     log::info("ToviTraffic::makeSendPacket makeSendPacketEx normal mode");
+  } else {
+    const char* name = wire::cipherName(key.mode);
+    log::info("ToviTraffic::makeSendPacket makeSendPacketEx %s mode, %s key = %s", name, name,
+              log::shownKey(key.text));
   }
   if (what <= wire::kExtendedCommand) {
-    return wire::makeFrame(static_cast<char>(what), payload, mode, key);
+    return wire::makeFrame(static_cast<char>(what), payload, key.mode, key.text);
   }
   return wire::makeFrame(static_cast<char>(wire::kExtendedCommand), lowFirst(what).append(payload),
-                         mode, key);
+                         key.mode, key.text);
+}
+
+std::size_t Session::mostPayload(short what) const {
+  constexpr std::size_t kCodeSize = 2;
+  const bool plain = what == ProtocalParser::WHAT_SECRET_DES_MD5_REQ;
+  const std::size_t most = wire::mostPlain(plain ? wire::kPlain : keyFor(what).mode);
+  return what > wire::kExtendedCommand ? most - kCodeSize : most;
 }
 
 bool Session::isEnciphered() const {

@@ -10,6 +10,8 @@
 
 #include <tovisdk/tovi_traffic.h>
 
+#include "wire/frame.h"
+
 namespace tovi::session {
 
 // A handle on the object that it is made of; costs nothing to copy. Codes are wide: see
@@ -44,10 +46,14 @@ class Session {
   std::string frameOf(short what, std::string_view payload) const;
   bool isEnciphered() const;
 
+  // The longest payload that a request can carry now.
+  std::size_t mostPayload(short what) const;
+
   // The next reply is deciphered with the keys that are set then.
   void renewParser();
 
-  void storeAesOrSm4Key(const char* password, char*& slot);
+  // What setAesKey and setSM4Key have in common.
+  void setAesOrSm4Key(const char* password, char*& slot);
 
   // How an operation ends: notes why, and gives its result.
   void end(ToviOutcome outcome) { mTraffic.mOutcome = outcome; }
@@ -59,6 +65,13 @@ class Session {
   ToviOutcome outcome() const { return mTraffic.mOutcome; }
 
  private:
+  // A key as the builder of frames wants it.
+  struct Key {
+    wire::CipherMode mode;
+    const char* text;
+  };
+
+  Key keyFor(short what) const;
   std::optional<std::string> exchange(std::uint64_t socket, short what, short rspWhat,
                                       std::string_view payload, int bufferSize);
   std::optional<std::string> receiveOnce(std::uint64_t socket, short what, std::string& buffer);

@@ -33,6 +33,11 @@ constexpr Step kEnd{"recvFileOverRsp", 1, ToviTraffic::FILE_END_NO_REPLY,
 constexpr unsigned kLastCleanUp = 3;
 constexpr int kSubstituteCleanUp = 1;
 
+// Both a name and a chunk stand behind two bytes.
+bool fits(Session session, const Step& step, std::size_t size) {
+  return size + kNumberSize <= session.mostPayload(wire::wideCode(step.row.command.request));
+}
+
 // How far a file got: the bytes of the last chunk, and the number that the next would carry.
 struct Sent {
   int lastLen = 0;
@@ -58,24 +63,27 @@ int sendChunks(Session session, std::uint64_t socket, const char* path, int chun
     if (result != ToviTraffic::SUCCESS) return result;
     if (progress && !progress(file.position(), file.size())) {
       log::info("ToviTraffic::sendFileContent stopped by the host");
-      return ToviTraffic::STOPPED_BY_HOST;
+      return session.end(ToviOutcome::Stopped, ToviTraffic::STOPPED_BY_HOST);
     }
   } while (!file.atEnd());
   return ToviTraffic::SUCCESS;
 }
 
 // The texts of a JSON array; what else stands in it is passed over.
-std::list<std::string> askNames(Operation operation, const std::string& payload = {}) {
-  std::list<std::string> names;
-  const CJsonObject array(operation.askText(payload));
-  if (!array.isArray() && operation.outcome() == ToviOutcome::Done) {
-    operation.end(ToviOutcome::BadReply);
-  }
-  for (std::uint32_t i = 0; i < array.arraySize(); ++i) {
-    std::string name;
-    if (array.getArrayText(i, name)) names.push_back(std::move(name));
-  }
-  return names;
+template <class... Parts>
+std::list<std::string> askNames(Operation operation, const Parts&... parts) {
+  return operation.guarded(std::list<std::string>(), [&] {
+    std::list<std::string> names;
+    const CJsonObject array(operation.askText(parts...));
+    if (!array.isArray() && operation.outcome() == ToviOutcome::Done) {
+      operation.end(ToviOutcome::BadReply);
+    }
+    for (std::uint32_t i = 0; i < array.arraySize(); ++i) {
+      std::string name;
+      if (array.getArrayText(i, name)) names.push_back(std::move(name));
+    }
+    return names;
+  });
 }
 
 }  // namespace
@@ -90,6 +98,12 @@ int sendWhole(Session session, std::uint64_t socket, std::string_view content) {
   return sendStep(session, socket, kChunk, lowFirst(1).append(content));
 }
 
+bool isName(Session session, std::string_view name) { return fits(session, kName, name.size()); }
+
+bool isContent(Session session, std::string_view content) {
+  return fits(session, kChunk, content.size());
+}
+
 int awaitEnd(Session session, std::uint64_t socket) { return awaitStep(session, socket, kEnd); }
 
 }  // namespace tovi::transfer
@@ -99,17 +113,17 @@ int ToviTraffic::sendFile(const char* path, const char* name) { return sendFile(
 int ToviTraffic::sendFile(const char* path, const char* name, const Progress& progress) {
   Transfer transfer(*this, "sendFile");
   if (path == nullptr || name == nullptr) return transfer.refuse("path or name is null");
-  const std::string_view fileName = name;
-  if (fileName.size() > kMaxText) return transfer.refuse("the name is too long");
-  if (!transfer.connect()) return kNoConnection;
-
   Session session = transfer.session();
-  int result = sendName(session, transfer.socket(), fileName);
-  if (result != SUCCESS) return result;
-  Sent sent;
-  result = sendChunks(session, transfer.socket(), path,
-                      session.isEnciphered() ? kCipheredChunk : kPlainChunk, sent, progress);
-  return result == SUCCESS ? awaitEnd(session, transfer.socket()) : result;
+  if (!isName(session, name)) return transfer.refuse("the name is too long");
+  return transfer.guarded(kNoConnection, [&] {
+    if (!transfer.connect()) return kNoConnection;
+    int result = sendName(session, transfer.socket(), name);
+    if (result != SUCCESS) return result;
+    Sent sent;
+    result = sendChunks(session, transfer.socket(), path,
+                        session.isEnciphered() ? kCipheredChunk : kPlainChunk, sent, progress);
+    return result == SUCCESS ? awaitEnd(session, transfer.socket()) : result;
+  });
 }
 
 // Kept: the interface names it.
@@ -140,10 +154,10 @@ std::list<std::string> ToviTraffic::getAllMediaFileName() {
 }
 
 std::list<std::string> ToviTraffic::getFileListName(char type) {
-  return askNames(Operation(*this, "getFileListName"), bytes({type}));
+  return askNames(Operation(*this, "getFileListName"), type);
 }
 
 int ToviTraffic::cleanUpFiles(int type) {
   const bool known = static_cast<unsigned>(type) <= kLastCleanUp;
-  return Operation(*this, "cleanUpFiles").set(bytes({known ? type : kSubstituteCleanUp}));
+  return Operation(*this, "cleanUpFiles").set(known ? type : kSubstituteCleanUp);
 }

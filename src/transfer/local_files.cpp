@@ -2,13 +2,21 @@
 
 #include <tovisdk/files.h>
 
+#include <array>
 #include <memory>
-#include <new>
+#include <string>
+
+#include "foundation/bytes.h"
+#include "foundation/memory.h"
 
 namespace tovi::transfer {
 
-FileReader::FileReader(const char* path)
-    : mFile(path, std::ios::binary | std::ios::ate), mSize(mFile.tellg()) {
+FileReader::FileReader(const char* path) : mFile(path, std::ios::binary) {
+  mFile.seekg(0, std::ios::end);
+  if (mFile.good()) mSize = mFile.tellg();
+  // What cannot be positioned, as a pipe, is read all the same.
+  mFile.clear(mFile.is_open() ? std::ios::goodbit : std::ios::badbit);
+  if (mSize < 0) return;
   mFile.seekg(0);
   // Some systems open folders and give them a size; only a read tells.
   if (mSize > 0) mFile.peek();
@@ -22,6 +30,8 @@ long long FileReader::read(std::span<char> room) {
   return mFile.gcount();
 }
 
+bool makeEmptyFile(const char* path) { return std::ofstream(path, std::ios::trunc).is_open(); }
+
 bool appendToFile(const char* path, std::string_view bytes) {
   std::ofstream file(path, std::ios::binary | std::ios::app);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -32,22 +42,46 @@ bool appendToFile(const char* path, std::string_view bytes) {
 }  // namespace tovi::transfer
 
 bool createEmptyFile(const char* path) {
-  return path != nullptr && std::ofstream(path, std::ios::trunc).is_open();
+  return tovi::whereMemoryAllows(
+      false, [&] { return path != nullptr && std::ofstream(path, std::ios::trunc).is_open(); });
 }
 
 void writeFileAppend(const char* path, const char* data, long long length) {
   if (path == nullptr || length < 0 || (data == nullptr && length > 0)) return;
-  tovi::transfer::appendToFile(path, {data, static_cast<std::size_t>(length)});
+  const std::string_view bytes(data, static_cast<std::size_t>(length));
+  tovi::whereMemoryAllows(false, [&] { return tovi::transfer::appendToFile(path, bytes); });
 }
 
-char* readFile(const char* path) {
-  if (path == nullptr) return nullptr;
-  tovi::transfer::FileReader file(path);
-  if (!file.canRead()) return nullptr;
+namespace {
+
+char* newContent(tovi::transfer::FileReader& file, std::size_t size) {
   // The byte more is for the closing zero, and makes the read meet the end.
-  const std::size_t room = static_cast<std::size_t>(file.size()) + 1;
-  std::unique_ptr<char[]> content(new (std::nothrow) char[room]);
-  if (content == nullptr || file.read({content.get(), room}) < 0) return nullptr;
-  content[room - 1] = '\0';
+  std::unique_ptr<char[]> content(new char[size + 1]);
+  if (file.read({content.get(), size + 1}) < 0) return nullptr;
+  content[size] = '\0';
   return content.release();
+}
+
+// Of a file whose size nobody knows before its end.
+char* newContent(tovi::transfer::FileReader& file) {
+  std::string content;
+  std::array<char, 65536> piece;
+  do {
+    const long long count = file.read(piece);
+    if (count < 0) return nullptr;
+    content.append(piece.data(), static_cast<std::size_t>(count));
+  } while (!file.atEnd());
+  return tovi::newArray(content);
+}
+
+}  // namespace
+
+char* readFile(const char* path) {
+  char* const none = nullptr;
+  if (path == nullptr) return none;
+  return tovi::whereMemoryAllows(none, [&] {
+    tovi::transfer::FileReader file(path);
+    return file.size() < 0 ? newContent(file)
+                           : newContent(file, static_cast<std::size_t>(file.size()));
+  });
 }

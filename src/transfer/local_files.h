@@ -13,9 +13,6 @@ class FileReader {
  public:
   explicit FileReader(const char* path);
 
-  // Whether there is a file to read; a folder is none.
-  bool canRead() const { return mFile.good(); }
-
   // Fills the room, or what the file still has of it; the number of bytes. -1 when the file cannot
   // be opened or read, or ends before the size that it had when it was opened.
   long long read(std::span<char> room);
@@ -24,13 +21,16 @@ class FileReader {
   bool atEnd() const { return mFile.eof(); }
 
   long long position() const { return mPosition; }
-  long long size() const { return mSize; }  // when it was opened
+  long long size() const { return mSize; }  // when it was opened; -1: not known, as of a pipe
 
  private:
   std::ifstream mFile;
-  long long mSize;
+  long long mSize = -1;
   long long mPosition = 0;
 };
+
+// Makes an empty file, or empties one; false when that cannot be done.
+bool makeEmptyFile(const char* path);
 
 // Whether all bytes were taken.
 bool appendToFile(const char* path, std::string_view bytes);

@@ -1,6 +1,4 @@
 // A picture of the screen, piece by piece into a local file.
-#include <tovisdk/files.h>
-
 #include <string_view>
 
 #include "foundation/bytes.h"
@@ -54,12 +52,14 @@ int receivePicture(Transfer& transfer, const char* path, bool sent) {
 int ToviTraffic::getDeviceScreenshot(std::string path) {
   Transfer transfer(*this, "getDeviceScreenshot");
   if (path.empty()) return transfer.refuse("path is empty");
-  if (!createEmptyFile(path.c_str())) {
-    log::error("ToviTraffic::getDeviceScreenshot cannot make %s", path.c_str());
-    return transfer.end(ToviOutcome::LocalFile, ARGUMENT_ERROR);
-  }
-  if (!transfer.connect()) return kNoConnection;
-  const int sent = transfer.session().send(transfer.socket(), wire::wideCode(kScreenshot.request),
-                                           bytes({0xFF, 0xFF}));
-  return receivePicture(transfer, path.c_str(), sent >= 0);
+  return transfer.guarded(kNoConnection, [&] {
+    if (!makeEmptyFile(path.c_str())) {
+      log::error("ToviTraffic::getDeviceScreenshot cannot make %s", path.c_str());
+      return transfer.end(ToviOutcome::LocalFile, ARGUMENT_ERROR);
+    }
+    if (!transfer.connect()) return kNoConnection;
+    const int sent = transfer.session().send(transfer.socket(), wire::wideCode(kScreenshot.request),
+                                             bytes({0xFF, 0xFF}));
+    return receivePicture(transfer, path.c_str(), sent >= 0);
+  });
 }

@@ -10,9 +10,6 @@
 
 namespace tovi::transfer {
 
-// The longest text that fits a frame in every mode behind two leading bytes.
-inline constexpr std::size_t kMaxText = wire::kMaxPayload - 2;
-
 // What files and pictures report where other operations report SOCKET_ERROR_CODE.
 inline constexpr int kNoConnection = -1;
 

@@ -1,6 +1,4 @@
 // Updates and downloads.
-#include <iostream>
-
 #include "foundation/log.h"
 #include "session/operation.h"
 #include "transfer/transfer.h"
@@ -40,17 +38,17 @@ bool awaitDownload(Transfer& transfer) {
 int ToviTraffic::sendLocalUpdate(int type, const char* text) {
   Operation operation(*this, "sendLocalUpdate");
   if (text == nullptr) return operation.refuse("text is null");
-  return operation.set(bytes({1, type}) + text);
+  return operation.set(1, type, text);
 }
 
 int ToviTraffic::sendTestLocalUpdate(int type, const char* text) {
   Operation operation(*this, "sendTestLocalUpdate");
   if (text == nullptr) return operation.refuse("text is null");
-  return operation.set(bytes({type, kTrial}) + text);
+  return operation.set(type, kTrial, text);
 }
 
 int ToviTraffic::removeLocalUpdate(int type) {
-  return Operation(*this, "removeLocalUpdate").set(bytes({0, type}));
+  return Operation(*this, "removeLocalUpdate").set(0, type);
 }
 
 int ToviTraffic::sendFtpDownloadaddress(const std::string& address) {
@@ -63,19 +61,21 @@ int ToviTraffic::updateFileName(const std::string& name) {
 
 bool ToviTraffic::downloadFiles(const std::string& list) {
   Transfer transfer(*this, "downloadFiles");
-  if (list.size() > kDownload.text.most) {
+  Session session = transfer.session();
+  const short request = wire::wideCode(kDownload.request);
+  if (list.size() > session.mostPayload(request)) {
     transfer.refuse("the list is too long");
     return false;
   }
-  // Hosts read these two lines from the standard output.
-  if (!transfer.connect()) {
-    std::cout << "socket == NULL" << std::endl;
-    return false;
-  }
-  Session session = transfer.session();
-  if (session.send(transfer.socket(), wire::wideCode(kDownload.request), list) < 0) {
-    std::cout << "send SOCKET_ERROR" << std::endl;
-    return transfer.end(ToviOutcome::SendFailed, false);
-  }
-  return awaitDownload(transfer);
+  return transfer.guarded(false, [&] {
+    if (!transfer.connect()) {
+      log::print("socket == NULL");
+      return false;
+    }
+    if (session.send(transfer.socket(), request, list) < 0) {
+      log::print("send SOCKET_ERROR");
+      return transfer.end(ToviOutcome::SendFailed, false);
+    }
+    return awaitDownload(transfer);
+  });
 }

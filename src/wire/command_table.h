@@ -17,13 +17,15 @@ inline constexpr std::uint16_t kNoRequest = 0xFFFF;  // the controller speaks fi
 // Receive buffers: how much of a reply one read takes, in bytes.
 inline constexpr int kShortReply = 100;
 inline constexpr int kBigReply = 4096;
+inline constexpr int kTextReply = 8192;
 inline constexpr int kPictureReply = 65535;
 inline constexpr int kLinkReply = 120000;  // a download link to a log archive may be long
 
-// How long the text may be that a host gives a command, in bytes.
+// How long the text may be that a host gives a command, in bytes. Without an end of its own, it is
+// what fits a frame.
 struct TextSize {
   std::size_t least = 0;
-  std::size_t most = kMaxPayload;
+  std::size_t most = SIZE_MAX;
 };
 
 struct Command {
@@ -99,16 +101,16 @@ inline constexpr Command kCommands[] = {
     {"setAutoBrightnessTimeParam", 0xAA, 0xAA},
     {"downloadFiles", 0xAB, 0xAB},
     {"deletePlaylistById", 0xAE, 0xAE},
-    {"getCpuAndMemoryInfo", 0xAF, 0xAF},
+    {"getCpuAndMemoryInfo", 0xAF, 0xAF, kTextReply},
     {"getAllMediaFileName", 0xB0, 0xB0, kBigReply},
     {"getMac", 0xB3, 0xB3},
-    {"getFileListName", 0xB9, 0xB9},
+    {"getFileListName", 0xB9, 0xB9, kTextReply},
     {"getScreenStatus", 0xBA, 0xBA},
     {"setSyncPlay", 0xBC, 0xBC},
     {"getSyncPlay", 0xBD, 0xBD},
     {"getSystemInfo", 0xC2, 0xC2, kBigReply},
     {"getBrightnessInfo", 0xC3, 0xC3},
-    {"getWifiApConfig", 0xC4, 0xC4},
+    {"getWifiApConfig", 0xC4, 0xC4, kTextReply},
     {"setWifiApState", 0xC5, 0xC5},
     {"setWifiApConfig", 0xC6, 0xC6, kShortReply, {0, 1024}},
     {"getSensorInfo", 0xC7, 0xC7, kBigReply},
@@ -122,10 +124,10 @@ inline constexpr Command kCommands[] = {
     {"setFont", 0xD2, 0xD2, kShortReply, {0, 1024}},
     {"getVirtualConnection", 0xD3, 0xD3},
     {"getSn", 0xD5, 0xD5},
-    {"getLoraInfo", 0xD6, 0xD6},
+    {"getLoraInfo", 0xD6, 0xD6, kTextReply},
     {"setLoraInfo", 0xD7, 0xD7, kShortReply, {0, 4096}},
     {"setAdvanceTiming", 0xDC, 0xDC, kShortReply, {0, 4096}},
-    {"getAdvanceTiming", 0xDD, 0xDD},
+    {"getAdvanceTiming", 0xDD, 0xDD, kTextReply},
     {"removeAdvanceTiming", 0xDE, 0xDE},
     {"setAntiAliasing", 0xE5, kNoReply},
     {"getAntiAliasing", 0xE6, 0xE6},
@@ -133,16 +135,16 @@ inline constexpr Command kCommands[] = {
     {"setVirtualConnection", 0xF3, 0xF4},
     {"recvFileOverRsp", kNoRequest, 0xF9},
     {"setPingIp", 0x101, 0x101},
-    {"getPingIp", 0x102, 0x102},
+    {"getPingIp", 0x102, 0x102, kTextReply},
     {"setDeviceKey", 0x103, 0x103},
     {"switchToSoftsim", 0x105, 0x105},
-    {"getSimInfo", 0x108, 0x108},
-    {"getWhitelist", 0x109, 0x109},
+    {"getSimInfo", 0x108, 0x108, kTextReply},
+    {"getWhitelist", 0x109, 0x109, kTextReply},
     {"addWhitelist", 0x10A, 0x10A},
     {"removeWhitelist", 0x10B, 0x10B},
     {"getIsSecret", 0x10C, 0x10C},
     {"setServerIPLists", 0x10D, 0x10D},
-    {"getServerIPLists", 0x10E, 0x10E},
+    {"getServerIPLists", 0x10E, 0x10E, kTextReply},
     {"getLogZipPath", 0x10F, 0x10F, kLinkReply},
     {"setSSHEnabled", 0x110, 0x110},
     {"getSSHEnabled", 0x110, 0x110},

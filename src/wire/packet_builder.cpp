@@ -13,6 +13,7 @@
 #include "cipher/sm4.h"
 #include "foundation/bytes.h"
 #include "foundation/log.h"
+#include "foundation/memory.h"
 #include "wire/checksum.h"
 #include "wire/frame.h"
 
@@ -20,8 +21,6 @@ namespace tovi::wire {
 namespace {
 
 constexpr std::size_t kMaxBlock = 16;
-
-const char* cipherName(int mode) { return mode == kDes ? "des" : mode == kAes ? "aes" : "sm4"; }
 
 int encipherInto(std::span<char> out, std::string_view payload, int mode, std::string_view key) {
   switch (mode) {
@@ -80,6 +79,8 @@ std::string carriedPayload(char what, std::string_view payload, int mode, const 
 
 }  // namespace
 
+const char* cipherName(int mode) { return mode == kDes ? "des" : mode == kAes ? "aes" : "sm4"; }
+
 std::string makeFrame(char what, std::string_view payload, int mode, const char* key) {
   std::string frame = {ProtocalParser::PACKET_START_FLAG, '\xFF', '\xFF', what};
   frame += escape(carriedPayload(what, payload, mode, key));
@@ -90,14 +91,17 @@ std::string makeFrame(char what, std::string_view payload, int mode, const char*
 }  // namespace tovi::wire
 
 char* makeSendPacketEx(char what, char* data, int len, int mode, char* key, int* outLen) {
-  // Escaping doubles a payload at most, and a frame's length is an int.
-  constexpr int kMostBytes = INT_MAX / 2 - ProtocalParser::PACKET_MIN_SIZE;
   if (outLen != nullptr) *outLen = 0;
-  if (outLen == nullptr || (data == nullptr && len > 0) || len > kMostBytes) {
+  if (outLen == nullptr || (data == nullptr && len > 0) ||
+      tovi::viewOf(data, len).size() > tovi::wire::mostPlain(tovi::wire::kPlain)) {
     tovi::log::error("makeSendPacketEx argument refused, len = %d", len);
     return nullptr;
   }
-  const std::string frame = tovi::wire::makeFrame(what, tovi::viewOf(data, len), mode, key);
-  *outLen = static_cast<int>(frame.size());
-  return tovi::newArray(frame);
+  char* const none = nullptr;
+  return tovi::whereMemoryAllows(none, [&] {
+    const std::string frame = tovi::wire::makeFrame(what, tovi::viewOf(data, len), mode, key);
+    char* array = tovi::newArray(frame);
+    *outLen = static_cast<int>(frame.size());
+    return array;
+  });
 }

@@ -6,6 +6,9 @@
 
 namespace tovi::wire {
 
+// "des", "aes" or "sm4", as records have it.
+const char* cipherName(int mode);
+
 // The frame of makeSendPacketEx; key may be null.
 std::string makeFrame(char what, std::string_view payload, int mode, const char* key);
 

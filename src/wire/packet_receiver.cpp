@@ -1,12 +1,15 @@
 #include "wire/packet_receiver.h"
 
 #include <memory>
+#include <new>
+#include <utility>
 
 #include "cipher/aes.h"
 #include "cipher/des.h"
 #include "cipher/md5.h"
 #include "cipher/sm4.h"
 #include "foundation/bytes.h"
+#include "foundation/memory.h"
 #include "wire/checksum.h"
 #include "wire/frame.h"
 
@@ -69,12 +72,13 @@ std::optional<std::string> Receiver::receive(std::string_view bytes, short what)
     if (!store(work[i])) continue;
     const std::string_view frame = std::string_view(work).substr(start, i + 1 - start);
     if (std::optional<std::string> package = open(frame, what)) {
-      keep(std::string_view(work).substr(i + 1));
+      // A reply in hand is worth more than the bytes behind it.
+      if (!tryKeep(std::string_view(work).substr(i + 1))) forget();
       return package;
     }
   }
-  mParser.needMore = true;
   keep(work.size() > kMaxKept ? unfinished(work, start) : work);
+  mParser.needMore = true;
   return std::nullopt;
 }
 
@@ -111,10 +115,34 @@ std::string_view Receiver::unfinished(std::string_view work, std::size_t start) 
 }
 
 void Receiver::keep(std::string_view bytes) {
-  char* kept = bytes.empty() ? nullptr : newArray(bytes);
-  delete[] mParser.pending;
-  mParser.pending = kept;
+  if (!tryKeep(bytes)) throw std::bad_alloc();
+}
+
+// False when memory is out, which leaves everything as it was.
+bool Receiver::tryKeep(std::string_view bytes) {
+  char* kept = nullptr;
+  if (!bytes.empty()) {
+    kept = new (std::nothrow) char[bytes.size()];
+    if (kept == nullptr) return false;
+    bytes.copy(kept, bytes.size());
+  }
+  delete[] std::exchange(mParser.pending, kept);
   mParser.pendingLen = static_cast<int>(bytes.size());
+  return true;
+}
+
+void Receiver::takeKey(char* key, int mode) {
+  if (key == nullptr) return;
+  if (mode == kDes) {
+    mParser.desKey = key;
+  } else if (mode == kAes || mode == kSm4) {
+    auto digest = std::make_unique<cipher::Md5>();
+    digest->update(key);
+    const std::string cipherKey = digest->hexDigest().substr(8, 16);
+    if (mode == kAes) mParser.aes = new cipher::Aes128(cipherKey);
+    if (mode == kSm4) mParser.sm4 = new cipher::Sm4(cipherKey);
+    mParser.md5 = digest.release();
+  }
 }
 
 std::optional<std::string> Receiver::open(std::string_view frame, short what) {
@@ -177,17 +205,10 @@ using tovi::wire::Receiver;
 ProtocalParser::ProtocalParser() = default;
 
 ProtocalParser::ProtocalParser(char* key, int mode) {
-  std::unique_ptr<char[]> owned(key);
-  if (owned == nullptr) return;
-  if (mode == tovi::wire::kDes) {
-    desKey = owned.release();
-  } else if (mode == tovi::wire::kAes || mode == tovi::wire::kSm4) {
-    md5 = new tovi::cipher::Md5;
-    md5->update(owned.get());
-    const std::string cipherKey = md5->hexDigest().substr(8, 16);
-    if (mode == tovi::wire::kAes) aes = new tovi::cipher::Aes128(cipherKey);
-    if (mode == tovi::wire::kSm4) sm4 = new tovi::cipher::Sm4(cipherKey);
-  }
+  tovi::whereMemoryAllows(false, [&] {
+    Receiver(*this).takeKey(key, mode);
+    return true;
+  });
 }
 
 ProtocalParser::~ProtocalParser() {
@@ -199,12 +220,17 @@ ProtocalParser::~ProtocalParser() {
 }
 
 char* ProtocalParser::recvProc(char* data, int len, short what) {
-  const std::optional<std::string> package = Receiver(*this).receive(tovi::viewOf(data, len), what);
-  return package ? tovi::newArray(*package) : nullptr;
+  char* const none = nullptr;
+  return tovi::whereMemoryAllows(none, [&] {
+    const auto package = Receiver(*this).receive(tovi::viewOf(data, len), what);
+    return package ? tovi::newArray(*package) : nullptr;
+  });
 }
+
+int ProtocalParser::getPackageLen() const { return packageLen; }
 
 // Kept: the interface names it.
 char* ProtocalParser::recvPackage(char* frame, int len, short what) {
-  const std::optional<std::string> package = Receiver(*this).open(tovi::viewOf(frame, len), what);
+  const auto package = Receiver(*this).open(tovi::viewOf(frame, len), what);
   return package ? tovi::newArray(*package) : nullptr;
 }

@@ -16,20 +16,27 @@ class Receiver {
   // Adds bytes and looks for the reply to a command; see ProtocalParser::recvProc.
   std::optional<std::string> receive(std::string_view bytes, short what);
 
+  // What the constructor with a key does. Where memory is out the parser stays one for plain
+  // replies.
+  void takeKey(char* key, int mode);
+
+  // Whether replies are deciphered.
+  bool hasCipher() const;
+
   // Checks, unescapes and deciphers one whole frame.
   std::optional<std::string> open(std::string_view frame, short what);
 
   // Whether bytes are kept that have not been searched yet.
   bool hasUnread() const { return mParser.pendingLen > 0 && !mParser.needMore; }
 
-  void forget() { keep({}); }
+  void forget() { tryKeep({}); }
 
  private:
   void beginFrame();
   bool store(char byte);
   std::string_view unfinished(std::string_view work, std::size_t start) const;
   void keep(std::string_view bytes);
-  bool hasCipher() const;
+  bool tryKeep(std::string_view bytes);
   bool openExtended(std::string& payload, char whatByte, short what) const;
   std::string decipher(std::string& payload) const;
 

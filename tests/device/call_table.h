@@ -8,12 +8,15 @@
 
 namespace tovi::test {
 
+using enum ToviOutcome;
+
 struct Call {
   const char* what;  // the method, then what is particular about the case
   std::string (*call)(ToviTraffic&);
   const char* request;  // command byte and payload; "|" between requests; empty: nothing is sent
   const char* reply;    // command byte and payload; "|" between replies; empty: silence
   std::string result;
+  ToviOutcome outcome = Done;
 };
 
 // The tables, by theme.
@@ -28,6 +31,7 @@ extern const std::span<const Call> kNetworkCalls;
 extern const std::span<const Call> kWirelessCalls;
 extern const std::span<const Call> kMaintenanceCalls;
 extern const std::span<const Call> kSecureModeCalls;
+extern const std::span<const Call> kTransferCalls;
 
 // Results as texts that a row can name.
 inline std::string show(int number) { return std::to_string(number); }

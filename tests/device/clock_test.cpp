@@ -28,7 +28,7 @@ const Call kCalls[] = {
        return show(t.setTime(&time));
      },
      "09 E8 07 01 02 03 04 05", "0A 01", "1"},
-    {"setTime null", [](T& t) { return show(t.setTime(nullptr)); }, "", "", "-15"},
+    {"setTime null", [](T& t) { return show(t.setTime(nullptr)); }, "", "", "-15", RefusedArgument},
     {"setTimeAndTimeZone",
      [](T& t) {
        return show(t.setTimeAndTimeZone({-17, "A/B", "GMT+08:00"}));
@@ -45,11 +45,11 @@ const Call kCalls[] = {
     {"getTimeAndTimeZone no number", [](T& t) { return taken(t.getTimeAndTimeZone()); }, "96",
      "96 78 2C 55 2C 47 00 2C", "0 U G"},
     {"getTimeAndTimeZone of two parts", [](T& t) { return taken(t.getTimeAndTimeZone()); }, "96",
-     "96 31 2C 55 54 43", "null"},
+     "96 31 2C 55 54 43", "null", BadReply},
     {"getTimeAndTimeZone empty", [](T& t) { return taken(t.getTimeAndTimeZone()); }, "96", "96",
-     "null"},
+     "null", BadReply},
     {"getTimeAndTimeZone silent", [](T& t) { return taken(t.getTimeAndTimeZone()); }, "96", "",
-     "null"},
+     "null", NoReply},
     {"setDeviceNTPParam",
      [](T& t) {
        return show(t.setDeviceNTPParam({false, "n.tp"}));
@@ -65,7 +65,7 @@ const Call kCalls[] = {
     {"getDeviceNTPParam off", [](T& t) { return taken(t.getDeviceNTPParam()); }, "98", "98 02 6E",
      "0 n"},
     {"getDeviceNTPParam of two bytes", [](T& t) { return taken(t.getDeviceNTPParam()); }, "98",
-     "98 01", "null"},
+     "98 01", "null", BadReply},
 };
 
 }  // namespace

@@ -29,13 +29,13 @@ const Call kCalls[] = {
     {"getNowPlayContent without text", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
      "2E 01 77 80", "1 -128 null"},
     {"getNowPlayContent of three bytes", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
-     "2E 01 77", "null"},
+     "2E 01 77", "null", BadReply},
     {"getNowPlayAllContent", [](T& t) { return taken(t.getNowPlayAllContent()); }, "3A",
      "3B FF 61 62", "-1 ab"},
     {"getNowPlayAllContent without text", [](T& t) { return taken(t.getNowPlayAllContent()); },
      "3A", "3B 05", "5 null"},
     {"getNowPlayAllContent of one byte", [](T& t) { return taken(t.getNowPlayAllContent()); }, "3A",
-     "3B", "null"},
+     "3B", "null", BadReply},
 };
 
 }  // namespace

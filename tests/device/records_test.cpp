@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <type_traits>
 
 #include <tovisdk/tovisdk.h>
 
@@ -26,12 +27,25 @@ TEST(Records, AreReleasedOnceAndNullSafely) {
   expectReleased(new BrightnessItem);
   expectReleased(new TimeZoneParam);
   expectReleased(new DeviceNTPParam);
+  DeviceType* status = new DeviceType;
+  status->setDate(new std::tm{});
+  expectReleased(status);
   expectReleased(new DeviceNowPlayItem(true, 1, newText("text")));
   expectReleased(new DeviceNowPlayItem(true, 1, nullptr));
   expectReleased(new DeviceNowPlayList(1, newText("text")));
   expectReleased(new std::list<DevicePowerByTimeParam>(3));
   expectReleased(new std::list<PlayByTimeParam>(3));
   expectReleased(new std::list<BrightnessByTimeParam>(3));
+}
+
+// A list would copy them without a word, and two would release the same array.
+TEST(Records, AreNotCopiedIntoOthers) {
+  EXPECT_FALSE(std::is_copy_constructible_v<DeviceType>);
+  EXPECT_FALSE(std::is_copy_constructible_v<SocketResult>);
+  EXPECT_FALSE(std::is_copy_constructible_v<DeviceNowPlayItem>);
+  EXPECT_FALSE(std::is_copy_constructible_v<DeviceNowPlayList>);
+  EXPECT_TRUE(std::is_copy_assignable_v<DeviceType>);
+  EXPECT_TRUE(std::is_copy_assignable_v<SocketResult>);
 }
 
 TEST(Records, CopiesOfPlayingItemsShareTheirText) {

@@ -109,7 +109,6 @@ TEST(FlatGrammar, GroupsAndLeftovers) {
   EXPECT_EQ(tovi::flat::parsePlayEntries("a b c d e f g").size(), 2u);
   EXPECT_EQ(tovi::flat::parsePlayEntries("a  b").size(), 1u);  // the empty token between counts
   EXPECT_EQ(tovi::flat::parseBrightnessEntries("a b").size(), 0u);
-  EXPECT_EQ(tovi::flat::parseBrightnessEntries(nullptr).size(), 0u);
   const BrightnessItem curve =
       tovi::flat::parseCurve("1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18");
   EXPECT_EQ(curve.points[0].environmentBrightness, 1);

@@ -4,11 +4,21 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <utility>
 
 #include "platform/text.h"
 #include "tests/support/fake_platform_test.h"
 #include "tests/support/hex.h"
 #include "tests/support/wire.h"
+
+// Of byte_flags.c
+extern "C" {
+const char* setPowerByByte(const char* ip, unsigned short port, int on);
+const char* setBothPowersByByte(const char* ip, unsigned short port, int on);
+const char* setLinkByByte(const char* ip, unsigned short port, int on);
+void redactByByte(int redact);
+}
 
 namespace {
 
@@ -243,6 +253,9 @@ const Call kTexts[] = {
      "[],interfaceEnd"},
     {"getFileListName", [] { return read(getFileListName(kIp, kPort, 2)); }, "B9 02",
      "B9 01 5B 22 61 2E 6A 70 67 22 2C 22 62 2E 70 6E 67 22 5D", "a.jpg,b.png,interfaceEnd"},
+    // A text ends at a zero byte for a host, and the mark must come before that.
+    {"getFileListName with a zero byte", [] { return read(getFileListName(kIp, kPort, 2)); },
+     "B9 02", "B9 01 5B 22 61 5C 75 30 30 30 30 62 22 2C 22 63 22 5D", "ainterfaceEnd"},
     {"getFileListName none", [] { return read(getFileListName(kIp, kPort, 2)); }, "B9 02", "",
      "interfaceEnd"},
     {"getDeviceType", [] { return read(getDeviceType(kIp, kPort)); }, "01",
@@ -259,6 +272,9 @@ const Call kTexts[] = {
     // What is no UTF-8 stays as it came: these are the GBK bytes of the same character.
     {"getDeviceVersion", [] { return read(getDeviceVersion(kIp, kPort)); }, "23", "24 CF DE",
      "限interfaceEnd"},
+    // Bytes of GBK that pass for UTF-8 of characters which GBK lacks, too.
+    {"getDeviceName in GBK", [] { return read(getDeviceName(kIp, kPort)); }, "7E 01",
+     "7F 01 D1 A7 D4 BA", "学院interfaceEnd"},
     {"getSn", [] { return read(getSn(kIp, kPort)); }, "D5", "D5 53 4E", "SNinterfaceEnd"},
     {"getMac", [] { return read(getMac(kIp, kPort)); }, "B3", "B3 00 1A 0B 00 FF 05",
      "0:1a:b:0:ff:5interfaceEnd"},
@@ -289,6 +305,85 @@ TEST_F(FlatCalls, SendAndAnswerWhatTheirRowsSay) {
     functions.insert(name);
   }
   EXPECT_EQ(functions.size(), 72u);  // the others answer that they are not implemented
+}
+
+TEST_F(FlatCalls, PassWhatWasFoundOnAsItCame) {
+  arrive("0C 01 | 37 01 01 00 | 37 E9 99 90 00 31");
+  char* text = getDetectErrorPointInfo(kIp, kPort);
+  EXPECT_STREQ(text, "\xE9\x99\x90interfaceEnd");
+  deleteArry(&text);
+}
+
+TEST_F(FlatCalls, SendNothingForATextThatIsNull) {
+  struct {
+    const char* name;
+    const char* answer;
+    std::function<const char*()> call;
+  } const cases[] = {
+      {"setBrightnessAuto", "failed", [] { return setBrightnessAuto(kIp, kPort, nullptr); }},
+      {"setDevicePowerByTimeList", "failed",
+       [] { return setDevicePowerByTimeList(kIp, kPort, nullptr); }},
+      {"setPlayByTimeList", "failed", [] { return setPlayByTimeList(kIp, kPort, nullptr); }},
+      {"setBrightnessByTimeList", "failed",
+       [] { return setBrightnessByTimeList(kIp, kPort, nullptr); }},
+      {"setAdvanceTiming", "failed", [] { return setAdvanceTiming(kIp, kPort, nullptr); }},
+      {"setTime", "failed", [] { return setTime(kIp, kPort, nullptr); }},
+      {"setTimeAndTimeZone", "failed",
+       [] { return setTimeAndTimeZone(kIp, kPort, 1, nullptr, "G"); }},
+      {"setTimeAndTimeZone", "failed",
+       [] { return setTimeAndTimeZone(kIp, kPort, 1, "U", nullptr); }},
+      {"setDeviceNTPParam", "failed", [] { return setDeviceNTPParam(kIp, kPort, 1, nullptr); }},
+      {"setEdidInfo", "failed", [] { return setEdidInfo(kIp, kPort, nullptr); }},
+      {"getDeviceScreenshot", "failed", [] { return getDeviceScreenshot(kIp, kPort, nullptr); }},
+      {"sendPlayList", "failed", [] { return sendPlayList(kIp, kPort, 1, nullptr); }},
+      {"sendFile", "failed", [] { return sendFile(kIp, kPort, nullptr, "n"); }},
+      {"sendFile", "failed", [] { return sendFile(kIp, kPort, "/dev/null", nullptr); }},
+      {"sendLocalUpdate", "failed", [] { return sendLocalUpdate(kIp, kPort, 1, nullptr); }},
+      {"sendFtpDownloadaddress", "failed",
+       [] { return sendFtpDownloadaddress(kIp, kPort, nullptr); }},
+      {"updateFileName", "failed", [] { return updateFileName(kIp, kPort, nullptr); }},
+      {"removeAppPageName", "failed", [] { return removeAppPageName(kIp, kPort, nullptr); }},
+      {"setDeviceSecretParam", "failed",
+       [] { return setDeviceSecretParam(kIp, kPort, nullptr, false); }},
+      {"setDeviceName", "success", [] { return setDeviceName(kIp, kPort, nullptr); }},
+      {"setDeviceKey", "success", [] { return setDeviceKey(kIp, kPort, nullptr); }},
+      {"setDeviceNetBasicParam", "success",
+       [] {
+         return setDeviceNetBasicParam(kIp, kPort, nullptr, "1.1.1.1", "1.1.1.1", 1, "1.1.1.1");
+       }},
+      {"setDeviceNetBasicParam", "success",
+       [] {
+         return setDeviceNetBasicParam(kIp, kPort, "1.1.1.1", "1.1.1.1", "1.1.1.1", 1, nullptr);
+       }},
+      {"setDesKey", "success", [] { return setDesKey(kIp, kPort, nullptr); }},
+      {"setAesKey", "success", [] { return setAesKey(kIp, kPort, nullptr); }},
+  };
+  for (const auto& c : cases) {
+    arrive("");
+    EXPECT_STREQ(c.call(), c.answer) << c.name;
+    EXPECT_EQ(fake().opened, 0) << c.name;
+    EXPECT_TRUE(fake().logged("error " + std::string(c.name) + " refused: a text is null"))
+        << c.name;
+  }
+}
+
+// Several languages have a byte of ones for true.
+TEST_F(FlatCalls, TakeAnyByteButZeroForTrue) {
+  for (const int byte : {1, 2, 0x80, 0xFF}) {
+    for (const auto& [call, request] : {std::pair{&setPowerByByte, "05 01"},
+                                        {&setBothPowersByByte, "25 01"},
+                                        {&setLinkByByte, "F3 01 3C 00 03"}}) {
+      arrive("");
+      call(kIp, kPort, byte);
+      EXPECT_EQ(sent(), request) << byte;
+    }
+    redactByByte(byte);
+    arrive("");
+    setAesKey(kIp, kPort, "12345678");
+    setDesKey(kIp, kPort, "12345678");
+    EXPECT_TRUE(fake().logged("info ToviTraffic::setDesKey set encrypted key, key = ********"));
+    tovi_set_log_redaction(false);
+  }
 }
 
 TEST_F(FlatCalls, WriteTheirOwnRecordsOfTimetables) {

@@ -94,4 +94,61 @@ TEST_F(LogTest, TheHostMayMoveTheFolder) {
   EXPECT_EQ(fake().files.count(kFile), 1u);
 }
 
+TEST_F(LogTest, AMessageEndsAtItsFirstZeroByte) {
+  tovi_error("result = %c, more", '\0');
+  tovi_info("%s%c%s", std::string(2000, 'x').c_str(), '\0', "more");
+  EXPECT_EQ(fake().log(),
+            (std::vector<std::string>{"error result = ", "info " + std::string(2000, 'x')}));
+}
+
+TEST_F(LogTest, WithoutAKnownFolderNothingIsWritten) {
+  fake().executableFolder.clear();
+  tovi_set_log_folder(nullptr);
+  tovi_error("nowhere");
+  EXPECT_TRUE(fake().files.empty());
+  EXPECT_TRUE(fake().madeFolders.empty());
+}
+
+TEST_F(LogTest, AFileThatIsFullIsSetAside) {
+  const std::string first = "2024-01-05 00:00:00 info 1234567890\n\n";
+  constexpr char kAside[] = "/host/bin/log/tovisdk_2024-01-05.1.txt";
+  tovi_set_log_limit(static_cast<long long>(2 * first.size()));
+  tovi_info("1234567890");
+  tovi_info("1234567890");
+  EXPECT_EQ(fake().files.count(kAside), 0u) << "just as long as it may be";
+  tovi_info("third");
+  EXPECT_EQ(fake().files[kAside], first + first);
+  EXPECT_EQ(fake().files[kFile], "2024-01-05 00:00:00 info third\n\n");
+  tovi_info("%s", std::string(500, 'x').c_str());
+  EXPECT_EQ(fake().files[kAside], "2024-01-05 00:00:00 info third\n\n");
+  tovi_set_log_limit(0);
+  for (int i = 0; i < 3; ++i) tovi_info("%s", std::string(500, 'x').c_str());
+  EXPECT_GT(fake().files[kFile].size(), 2000u);
+}
+
+struct Heard {
+  std::vector<std::string> records;
+  static void record(void* user, int level, const char* text) {
+    auto& records = static_cast<Heard*>(user)->records;
+    records.push_back(std::to_string(level) + " " + text);
+    tovi_info("of the callback's own");  // which would go on for ever
+  }
+};
+
+TEST_F(LogTest, TheHostMayTakeTheRecords) {
+  Heard heard;
+  tovi_set_log_callback(Heard::record, &heard);
+  tovi_info("i");
+  tovi_debug("d");
+  tovi_warnning("%s", "w");
+  tovi_set_log_level(3);
+  tovi_warnning("below the threshold");
+  tovi_error("e");
+  EXPECT_TRUE(fake().files.empty());
+  tovi_set_log_callback(nullptr, nullptr);
+  tovi_error("to the file again");
+  EXPECT_EQ(heard.records, (std::vector<std::string>{"0 i", "1 d", "2 w", "3 e"}));
+  EXPECT_EQ(fake().log(), std::vector<std::string>{"error to the file again"});
+}
+
 }  // namespace

@@ -31,6 +31,16 @@ TEST_F(Sockets, CarryBytesBothWaysAndKnowTheirNames) {
   EXPECT_EQ(peerName(far.get()), "127.0.0.1:" + std::to_string(localPort(near.get())));
 }
 
+// Hosts write addresses as they always did, with fields filled up and blanks behind.
+TEST_F(Sockets, ReadAddressesAsTheyWereAlwaysRead) {
+  OwnedSocket listener(listenOn("127.0.0.1", 0));
+  for (const char* address : {"127.000.000.001", "127.0.0.1 ", "127.1", "0x7f.1"}) {
+    OwnedSocket socket(openSocket());
+    EXPECT_TRUE(connectSocket(socket.get(), address, localPort(listener.get()), kLongMs))
+        << address;
+  }
+}
+
 TEST_F(Sockets, RefuseWhatIsNoDottedAddress) {
   OwnedSocket listener(listenOn("127.0.0.1", 0));
   const std::uint16_t port = localPort(listener.get());

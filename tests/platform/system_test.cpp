@@ -41,20 +41,20 @@ std::vector<std::string> linesOf(const std::string& path) {
 }
 
 TEST_F(Files, MakeFoldersWhereTheyCan) {
-  EXPECT_TRUE(makeFolder(folder() + kPathSeparator)) << "as the log folder is written";
-  EXPECT_TRUE(makeFolder(folder())) << "it exists";
-  EXPECT_FALSE(makeFolder(in("missing") + kPathSeparator + "inner"));
-  ASSERT_TRUE(appendText(in("file"), "x"));
-  EXPECT_FALSE(makeFolder(in("file"))) << "a file of that name";
+  EXPECT_TRUE(makeFolder((folder() + kPathSeparator).c_str())) << "as the log folder is written";
+  EXPECT_TRUE(makeFolder(folder().c_str())) << "it exists";
+  EXPECT_FALSE(makeFolder((in("missing") + kPathSeparator + "inner").c_str()));
+  ASSERT_TRUE(appendText(in("file").c_str(), "x"));
+  EXPECT_FALSE(makeFolder(in("file").c_str())) << "a file of that name";
   EXPECT_FALSE(makeFolder(""));
 }
 
 TEST_F(Files, AppendWithTheSystemsLineEnds) {
-  ASSERT_TRUE(makeFolder(folder()));
-  EXPECT_TRUE(appendText(in("log"), ""));
+  ASSERT_TRUE(makeFolder(folder().c_str()));
+  EXPECT_TRUE(appendText(in("log").c_str(), ""));
   EXPECT_EQ(std::filesystem::file_size(in("log")), 0U);
-  EXPECT_TRUE(appendText(in("log"), "one\n\n"));
-  EXPECT_TRUE(appendText(in("log"), "two\n\n"));
+  EXPECT_TRUE(appendText(in("log").c_str(), "one\n\n"));
+  EXPECT_TRUE(appendText(in("log").c_str(), "two\n\n"));
   EXPECT_EQ(linesOf(in("log")), (std::vector<std::string>{"one", "", "two", ""}));
 
   std::ofstream(in("written")) << "one\n\ntwo\n\n";
@@ -62,16 +62,16 @@ TEST_F(Files, AppendWithTheSystemsLineEnds) {
 }
 
 TEST_F(Files, RefuseWhatCannotBeWritten) {
-  ASSERT_TRUE(makeFolder(folder()));
-  ASSERT_TRUE(appendText(in("file"), "x"));
+  ASSERT_TRUE(makeFolder(folder().c_str()));
+  ASSERT_TRUE(appendText(in("file").c_str(), "x"));
   for (const std::string& path : {in("missing") + kPathSeparator + "log", folder(),
                                   in("file") + kPathSeparator + "log", std::string()}) {
-    EXPECT_FALSE(appendText(path, "x")) << path;
+    EXPECT_FALSE(appendText(path.c_str(), "x")) << path;
   }
 }
 
 TEST_F(Files, KeepRecordsOfManyThreadsWhole) {
-  ASSERT_TRUE(makeFolder(folder()));
+  ASSERT_TRUE(makeFolder(folder().c_str()));
   constexpr std::size_t kThreads = 6;
   constexpr std::size_t kRecords = 60;
   constexpr std::size_t kLength = 9000;
@@ -79,7 +79,7 @@ TEST_F(Files, KeepRecordsOfManyThreadsWhole) {
   for (std::size_t i = 0; i < kThreads; ++i) {
     writers.emplace_back([this, letter = static_cast<char>('a' + i)] {
       const std::string record = std::string(kLength, letter) + "\n";
-      for (std::size_t j = 0; j < kRecords; ++j) EXPECT_TRUE(appendText(in("log"), record));
+      for (std::size_t j = 0; j < kRecords; ++j) EXPECT_TRUE(appendText(in("log").c_str(), record));
     });
   }
   for (std::thread& writer : writers) writer.join();

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tovisdk/log_control.h>
 
 #include <memory>
 
@@ -67,6 +68,14 @@ TEST(ResultLine, IsPrintedByEveryDestruction) {
   delete new SocketResult(newBytes("x"), 1);
   delete new SocketResult(nullptr, 0);
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "SocketResult delete\nSocketResult delete\n");
+}
+
+TEST(ResultLine, IsNotPrintedForAHostThatWantsNone) {
+  testing::internal::CaptureStdout();
+  tovi_set_console(0);
+  delete new SocketResult(nullptr, 0);
+  tovi_set_console(1);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
 }  // namespace

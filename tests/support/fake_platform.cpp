@@ -5,6 +5,7 @@
 
 #include "platform/files.h"
 #include "platform/system.h"
+#include "tests/support/failing_memory.h"
 
 namespace tovi::test {
 namespace {
@@ -49,33 +50,47 @@ constexpr Socket kSocket = 7;
 }  // namespace
 
 StartUp startUpSockets() {
+  const test::OwnMemory own;
   ++fakePlatform().startUps;
   return fakePlatform().startUp;
 }
 
-void cleanUpSockets() { ++fakePlatform().cleanUps; }
+void cleanUpSockets() {
+  const test::OwnMemory own;
+  ++fakePlatform().cleanUps;
+}
 
 Socket openSocket() {
+  const test::OwnMemory own;
   if (fakePlatform().openFails) return kInvalidSocket;
   ++fakePlatform().opened;
   return kSocket;
 }
 
-void closeSocket(Socket) { ++fakePlatform().closed; }
+void closeSocket(Socket) {
+  const test::OwnMemory own;
+  ++fakePlatform().closed;
+}
 
 void setTimeouts(Socket, int milliseconds) {
+  const test::OwnMemory own;
   fakePlatform().socketTimeouts.push_back(milliseconds);
 }
 
-int receiveTimeout(Socket) { return fakePlatform().hostReceiveTimeout; }
+int receiveTimeout(Socket) {
+  const test::OwnMemory own;
+  return fakePlatform().hostReceiveTimeout;
+}
 
 bool connectSocket(Socket, const char* address, std::uint16_t port, int) {
+  const test::OwnMemory own;
   if (address == nullptr || fakePlatform().connectFails) return false;
   fakePlatform().connections.push_back(std::string(address) + ":" + std::to_string(port));
   return true;
 }
 
 int sendAll(Socket, std::string_view bytes, int timeoutMs) {
+  const test::OwnMemory own;
   fakePlatform().sendTimeouts.push_back(timeoutMs);
   if (fakePlatform().sendFails) return -1;
   fakePlatform().sent.emplace_back(bytes);
@@ -83,6 +98,7 @@ int sendAll(Socket, std::string_view bytes, int timeoutMs) {
 }
 
 int receiveSome(Socket, std::span<char> buffer, int timeoutMs) {
+  const test::OwnMemory own;
   fakePlatform().receiveTimeouts.push_back(timeoutMs);
   fakePlatform().receiveSizes.push_back(buffer.size());
   if (fakePlatform().incoming.empty()) return -1;
@@ -98,30 +114,63 @@ int receiveSome(Socket, std::span<char> buffer, int timeoutMs) {
   return result;
 }
 
-int lastSocketError() { return fakePlatform().socketError; }
+int lastSocketError() {
+  const test::OwnMemory own;
+  return fakePlatform().socketError;
+}
 
-void pauseFor(int milliseconds) { fakePlatform().pauses.push_back(milliseconds); }
+void pauseFor(int milliseconds) {
+  const test::OwnMemory own;
+  fakePlatform().pauses.push_back(milliseconds);
+}
 
-std::time_t now() { return fakePlatform().now; }
+std::time_t now() {
+  const test::OwnMemory own;
+  return fakePlatform().now;
+}
 
-std::tm localTime(std::time_t) { return fakePlatform().localTime; }
+std::tm localTime(std::time_t) {
+  const test::OwnMemory own;
+  return fakePlatform().localTime;
+}
 
-std::string executableFolder() { return "/host/bin/"; }
+std::string executableFolder() {
+  const test::OwnMemory own;
+  return fakePlatform().executableFolder;
+}
 
 const char kPathSeparator = '/';
 
-bool appendText(const std::string& path, std::string_view text) {
+bool endsWithSeparator(const char* path) {
+  const test::OwnMemory own;
+  return std::string_view(path).ends_with('/');
+}
+
+bool appendText(const char* path, std::string_view text) {
+  const test::OwnMemory own;
   const std::string folder = test::folderOf(path);
   if (fakePlatform().folders.count(folder) == 0) return false;
   fakePlatform().files[path] += text;
   return true;
 }
 
-bool makeFolder(const std::string& path) {
-  fakePlatform().madeFolders.push_back(path);
+bool makeFolder(const char* path) {
+  const test::OwnMemory own;
+  fakePlatform().madeFolders.emplace_back(path);
   if (!fakePlatform().foldersCanBeMade) return false;
   fakePlatform().folders.insert(path);
   return true;
+}
+
+long long fileSize(const char* path) {
+  const test::OwnMemory own;
+  return static_cast<long long>(fakePlatform().files[path].size());
+}
+
+bool renameFile(const char* from, const char* to) {
+  const test::OwnMemory own;
+  fakePlatform().files[to] = std::move(fakePlatform().files[from]);
+  return fakePlatform().files.erase(from) == 1;
 }
 
 }  // namespace tovi::platform

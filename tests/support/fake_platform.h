@@ -29,6 +29,7 @@ struct FakePlatform {
   int socketError = 11;           // what lastSocketError gives
   int hostReceiveTimeout = 0;     // what the socket's options say
   std::deque<Incoming> incoming;  // when it runs out, reads time out
+  std::string executableFolder = "/host/bin/";
   bool foldersCanBeMade = true;
   std::set<std::string> folders;  // those that exist, with their closing separator
   std::tm localTime{};            // what the clock shows

@@ -21,6 +21,9 @@ class FakePlatformTest : public testing::Test {
     tovi_set_log_level(0);
     tovi_set_log_folder(nullptr);
     tovi_set_log_redaction(false);
+    tovi_set_log_limit(0);
+    tovi_set_log_callback(nullptr, nullptr);
+    tovi_set_console(1);
   }
 
   static FakePlatform& fake() { return fakePlatform(); }

@@ -36,8 +36,6 @@ void setSocket(ToviTraffic& traffic, std::uint64_t socket) { traffic.setSocket(s
 
 bool needMore(const ProtocalParser& parser) { return parser.needMore; }
 
-int packageLen(const ProtocalParser& parser) { return parser.packageLen; }
-
 std::string pending(const ProtocalParser& parser) {
   return std::string(viewOf(parser.pending, parser.pendingLen));
 }

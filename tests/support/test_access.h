@@ -19,7 +19,6 @@ void closeSocket(ToviTraffic& traffic, std::uint64_t socket);
 void setSocket(ToviTraffic& traffic, std::uint64_t socket);
 
 bool needMore(const ProtocalParser& parser);
-int packageLen(const ProtocalParser& parser);
 std::string pending(const ProtocalParser& parser);
 
 }  // namespace tovi::test::access

@@ -62,4 +62,14 @@ TEST_F(LocalFiles, AreReadWholeAndEndWithAZero) {
   EXPECT_EQ(readFile(nullptr), nullptr);
 }
 
+// As a pipe is, which would want a writer here.
+TEST_F(LocalFiles, AreReadThoughTheyCannotBePositioned) {
+  constexpr char kUnsized[] = "/proc/self/status";
+  if (!std::filesystem::exists(kUnsized)) GTEST_SKIP() << "there is no such file here";
+  char* content = readFile(kUnsized);
+  ASSERT_NE(content, nullptr);
+  EXPECT_NE(std::string(content).find("VmRSS"), std::string::npos);
+  deleteArry(&content);
+}
+
 }  // namespace

@@ -6,13 +6,9 @@
 #include <iostream>
 #include <sstream>
 
+namespace tovi::test {
 namespace {
 
-using tovi::test::Call;
-using tovi::test::FakePlatformTest;
-using tovi::test::frame;
-using tovi::test::show;
-using tovi::test::unframe;
 using T = ToviTraffic;
 
 std::string shown(const std::list<int>& numbers) {
@@ -27,121 +23,67 @@ std::string shown(const std::list<std::string>& names) {
   return text;
 }
 
-constexpr ToviOutcome kDone = ToviOutcome::Done;
-constexpr ToviOutcome kRefused = ToviOutcome::RefusedArgument;
-constexpr ToviOutcome kNoReply = ToviOutcome::NoReply;
-constexpr ToviOutcome kBadReply = ToviOutcome::BadReply;
-constexpr ToviOutcome kRejected = ToviOutcome::Rejected;
+const Call kCalls[] = {
+    {"playListById", [](T& t) { return show(t.playListById(0x1C8)); }, "1B C8", "1C 01", "1"},
+    {"deletePlaylistById", [](T& t) { return show(t.deletePlaylistById(7)); }, "AE 07", "AE 01",
+     "true"},
+    {"deletePlaylistById refused", [](T& t) { return show(t.deletePlaylistById(7)); }, "AE 07",
+     "AE 00", "false", Rejected},
+    {"getAllPlaylistId", [](T& t) { return shown(t.getAllPlaylistId()); }, "A7", "A7 01 05 E7 00",
+     "1,5,-25,0,"},
+    {"getAllPlaylistId none", [](T& t) { return shown(t.getAllPlaylistId()); }, "A7", "A7", ""},
+    {"getAllMediaFileName", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
+     "B0 01 5B 22 61 2E 62 22 2C 22 E9 99 90 22 2C 37 2C 22 22 5D",  // ["a.b","限",7,""]
+     "<a.b><限><>"},
+    {"getAllMediaFileName refused", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
+     "B0 00 5B 5D", "", Rejected},
+    {"getAllMediaFileName of no array", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
+     "B0 01 7B 22 61 22 3A 31 7D", "", BadReply},
+    {"getAllMediaFileName cut short", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
+     "B0 01 5B 22 61 22", "", BadReply},
+    {"getFileListName", [](T& t) { return shown(t.getFileListName(3)); }, "B9 03",
+     "B9 01 5B 22 78 22 5D", "<x>"},
+    {"sendLocalUpdate", [](T& t) { return show(t.sendLocalUpdate(0x102, "/u")); }, "88 01 02 2F 75",
+     "89 01", "1"},
+    {"sendLocalUpdate null", [](T& t) { return show(t.sendLocalUpdate(2, nullptr)); }, "", "",
+     "-15", RefusedArgument},
+    {"sendTestLocalUpdate", [](T& t) { return show(t.sendTestLocalUpdate(2, "/u")); },
+     "88 02 FE 2F 75", "89 01", "1"},
+    {"sendTestLocalUpdate null", [](T& t) { return show(t.sendTestLocalUpdate(2, nullptr)); }, "",
+     "", "-15", RefusedArgument},
+    {"removeLocalUpdate", [](T& t) { return show(t.removeLocalUpdate(0x12C)); }, "88 00 2C",
+     "89 01", "1"},
+    {"sendFtpDownloadaddress", [](T& t) { return show(t.sendFtpDownloadaddress("f:/")); },
+     "49 66 3A 2F", "50 01", "1"},
+    {"sendFtpDownloadaddress empty", [](T& t) { return show(t.sendFtpDownloadaddress("")); }, "",
+     "", "-15", RefusedArgument},
+    {"sendFtpDownloadaddress too long",
+     [](T& t) { return show(t.sendFtpDownloadaddress(std::string(1025, 'u'))); }, "", "", "-15",
+     RefusedArgument},
+    {"updateFileName", [](T& t) { return show(t.updateFileName(std::string("a\0b", 3))); },
+     "90 61 00 62", "91 01", "1"},
+    {"cleanUpFiles all", [](T& t) { return show(t.cleanUpFiles(0)); }, "7C 00", "7D 01", "1"},
+    {"cleanUpFiles last", [](T& t) { return show(t.cleanUpFiles(3)); }, "7C 03", "7D 01", "1"},
+    {"cleanUpFiles above", [](T& t) { return show(t.cleanUpFiles(4)); }, "7C 01", "7D 01", "1"},
+    {"cleanUpFiles below", [](T& t) { return show(t.cleanUpFiles(-1)); }, "7C 01", "7D 01", "1"},
+    {"clearCache", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "EF 15 01 01", "1"},
+    {"clearCache refused", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "EF 15 01 00",
+     "0", Rejected},
+    {"clearCache silent", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "", "-1", NoReply},
+    {"downloadFiles", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D", "AB 01",
+     "true"},
+    {"downloadFiles in progress", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
+     "AB 02 | AB 02 63 | AB 02 | AB 02 | AB 01", "true"},
+    {"downloadFiles refused", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
+     "AB 02 | AB 00 | AB 01", "false", Rejected},
+    {"downloadFiles without status", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
+     "AB | AB 01", "false", BadReply},
+    {"downloadFiles that fall silent", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
+     "AB 02", "false", NoReply},
 
-const struct {
-  Call call;
-  ToviOutcome outcome = kDone;
-} kRows[] = {
-    {{"playListById", [](T& t) { return show(t.playListById(0x1C8)); }, "1B C8", "1C 01", "1"}},
-    {{"deletePlaylistById", [](T& t) { return show(t.deletePlaylistById(7)); }, "AE 07", "AE 01",
-      "true"}},
-    {{"deletePlaylistById refused", [](T& t) { return show(t.deletePlaylistById(7)); }, "AE 07",
-      "AE 00", "false"},
-     kRejected},
-    {{"getAllPlaylistId", [](T& t) { return shown(t.getAllPlaylistId()); }, "A7", "A7 01 05 E7 00",
-      "1,5,-25,0,"}},
-    {{"getAllPlaylistId none", [](T& t) { return shown(t.getAllPlaylistId()); }, "A7", "A7", ""}},
-    {{"getAllMediaFileName", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
-      "B0 01 5B 22 61 2E 62 22 2C 22 E9 99 90 22 2C 37 2C 22 22 5D",  // ["a.b","限",7,""]
-      "<a.b><限><>"}},
-    {{"getAllMediaFileName refused", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
-      "B0 00 5B 5D", ""},
-     kRejected},
-    {{"getAllMediaFileName of no array", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
-      "B0 01 7B 22 61 22 3A 31 7D", ""},
-     kBadReply},
-    {{"getAllMediaFileName cut short", [](T& t) { return shown(t.getAllMediaFileName()); }, "B0",
-      "B0 01 5B 22 61 22", ""},
-     kBadReply},
-    {{"getFileListName", [](T& t) { return shown(t.getFileListName(3)); }, "B9 03",
-      "B9 01 5B 22 78 22 5D", "<x>"}},
-    {{"sendLocalUpdate", [](T& t) { return show(t.sendLocalUpdate(0x102, "/u")); },
-      "88 01 02 2F 75", "89 01", "1"}},
-    {{"sendLocalUpdate null", [](T& t) { return show(t.sendLocalUpdate(2, nullptr)); }, "", "",
-      "-15"},
-     kRefused},
-    {{"sendLocalUpdate too long",
-      [](T& t) { return show(t.sendLocalUpdate(2, std::string(65516, 'u').c_str())); }, "", "",
-      "-15"},
-     kRefused},
-    {{"sendTestLocalUpdate", [](T& t) { return show(t.sendTestLocalUpdate(2, "/u")); },
-      "88 02 FE 2F 75", "89 01", "1"}},
-    {{"sendTestLocalUpdate null", [](T& t) { return show(t.sendTestLocalUpdate(2, nullptr)); }, "",
-      "", "-15"},
-     kRefused},
-    {{"removeLocalUpdate", [](T& t) { return show(t.removeLocalUpdate(0x12C)); }, "88 00 2C",
-      "89 01", "1"}},
-    {{"sendFtpDownloadaddress", [](T& t) { return show(t.sendFtpDownloadaddress("f:/")); },
-      "49 66 3A 2F", "50 01", "1"}},
-    {{"sendFtpDownloadaddress empty", [](T& t) { return show(t.sendFtpDownloadaddress("")); }, "",
-      "", "-15"},
-     kRefused},
-    {{"sendFtpDownloadaddress too long",
-      [](T& t) { return show(t.sendFtpDownloadaddress(std::string(1025, 'u'))); }, "", "", "-15"},
-     kRefused},
-    {{"updateFileName", [](T& t) { return show(t.updateFileName(std::string("a\0b", 3))); },
-      "90 61 00 62", "91 01", "1"}},
-    {{"cleanUpFiles all", [](T& t) { return show(t.cleanUpFiles(0)); }, "7C 00", "7D 01", "1"}},
-    {{"cleanUpFiles last", [](T& t) { return show(t.cleanUpFiles(3)); }, "7C 03", "7D 01", "1"}},
-    {{"cleanUpFiles above", [](T& t) { return show(t.cleanUpFiles(4)); }, "7C 01", "7D 01", "1"}},
-    {{"cleanUpFiles below", [](T& t) { return show(t.cleanUpFiles(-1)); }, "7C 01", "7D 01", "1"}},
-    {{"clearCache", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "EF 15 01 01", "1"}},
-    {{"clearCache refused", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "EF 15 01 00",
-      "0"},
-     kRejected},
-    {{"clearCache silent", [](T& t) { return show(t.clearCache()); }, "EF 15 01", "", "-1"},
-     kNoReply},
-    {{"downloadFiles", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D", "AB 01",
-      "true"}},
-    {{"downloadFiles in progress", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
-      "AB 02 | AB 02 63 | AB 02 | AB 02 | AB 01", "true"}},
-    {{"downloadFiles refused", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
-      "AB 02 | AB 00 | AB 01", "false"},
-     kRejected},
-    {{"downloadFiles without status", [](T& t) { return show(t.downloadFiles("[]")); }, "AB 5B 5D",
-      "AB | AB 01", "false"},
-     kBadReply},
-    {{"downloadFiles that fall silent", [](T& t) { return show(t.downloadFiles("[]")); },
-      "AB 5B 5D", "AB 02", "false"},
-     kNoReply},
-    {{"downloadFiles too long", [](T& t) { return show(t.downloadFiles(std::string(65518, ' '))); },
-      "", "", "false"},
-     kRefused},
 };
 
 class Updates : public FakePlatformTest {};
-
-TEST_F(Updates, SendAndDecodeWhatTheirRowsSay) {
-  for (const auto& [call, outcome] : kRows) {
-    ToviTraffic traffic("127.0.0.1", 5005);
-    fake().sent.clear();
-    fake().incoming.clear();
-    fake().files.clear();
-    for (const std::string& reply : split(call.reply, " | ")) fake().arrive(frame(reply));
-    EXPECT_EQ(call.call(traffic), call.result) << call.what;
-    EXPECT_EQ(fake().sent.empty() ? "" : unframe(fake().sent[0]), call.request) << call.what;
-    EXPECT_LE(fake().sent.size(), 1u) << call.what;
-    EXPECT_EQ(traffic.lastOutcome(), outcome) << call.what;
-    EXPECT_EQ(fake().closed, fake().opened) << call.what;
-    const std::string method = split(call.what, " ")[0];
-    EXPECT_TRUE(fake().logged("info " + method + " start")) << call.what;
-  }
-}
-
-TEST_F(Updates, TheLongestTextsAreSent) {
-  ToviTraffic traffic("127.0.0.1", 5005);
-  fake().arrive(frame("50 01"));
-  EXPECT_EQ(traffic.sendFtpDownloadaddress(std::string(1024, 'u')), 1);
-  fake().arrive(frame("89 01"));
-  EXPECT_EQ(traffic.sendLocalUpdate(1, std::string(65515, 'u').c_str()), 1);
-  fake().arrive(frame("AB 01"));
-  EXPECT_TRUE(traffic.downloadFiles(std::string(65517, ' ')));
-}
 
 // What goes to the standard output while this lives.
 class Output {
@@ -183,3 +125,7 @@ TEST_F(Updates, DownloadsThatAreNeverDoneAreGivenUp) {
 }
 
 }  // namespace
+
+const std::span<const Call> kTransferCalls = kCalls;
+
+}  // namespace tovi::test

@@ -5,6 +5,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
+#include <cstring>
 
 namespace tovi::platform {
 
@@ -26,10 +28,14 @@ bool writeAll(int descriptor, std::string_view text) {
 
 }  // namespace
 
-bool appendText(const std::string& path, std::string_view text) {
+bool endsWithSeparator(const char* path) {
+  return *path != '\0' && path[std::strlen(path) - 1] == kPathSeparator;
+}
+
+bool appendText(const char* path, std::string_view text) {
   int descriptor = -1;
   do {
-    descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    descriptor = ::open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
   } while (descriptor < 0 && errno == EINTR);
   if (descriptor < 0) return false;
   const bool written = writeAll(descriptor, text);
@@ -37,10 +43,17 @@ bool appendText(const std::string& path, std::string_view text) {
   return written;
 }
 
-bool makeFolder(const std::string& path) {
-  if (::mkdir(path.c_str(), 0777) == 0) return true;
+bool makeFolder(const char* path) {
+  if (::mkdir(path, 0777) == 0) return true;
   struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  return ::stat(path, &status) == 0 && S_ISDIR(status.st_mode);
 }
+
+long long fileSize(const char* path) {
+  struct stat status {};
+  return ::stat(path, &status) == 0 ? status.st_size : 0;
+}
+
+bool renameFile(const char* from, const char* to) { return std::rename(from, to) == 0; }
 
 }  // namespace tovi::platform

@@ -81,7 +81,7 @@ Socket adoptDescriptor(int descriptor) {
 
 std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port) {
   sockaddr_in result{};
-  if (address == nullptr || ::inet_pton(AF_INET, address, &result.sin_addr) != 1) {
+  if (address == nullptr || ::inet_aton(address, &result.sin_addr) == 0) {
     errno = EINVAL;
     return std::nullopt;
   }

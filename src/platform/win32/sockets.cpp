@@ -98,7 +98,11 @@ void setBlocking(SOCKET handle, bool blocking) {
 
 std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port) {
   sockaddr_in result{};
-  if (address == nullptr || ::inet_pton(AF_INET, address, &result.sin_addr) != 1) {
+  // A blank text is an address of zeros to inet_addr, and the last address of all looks like its
+  // failure.
+  const std::string_view text = address == nullptr ? "" : address;
+  result.sin_addr.s_addr = text.empty() || text.front() == ' ' ? INADDR_NONE : ::inet_addr(address);
+  if (result.sin_addr.s_addr == INADDR_NONE && text != "255.255.255.255") {
     ::WSASetLastError(WSAEINVAL);
     return std::nullopt;
   }

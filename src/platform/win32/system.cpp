@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/deadline.h"
+#include "platform/win32/wide.h"
 
 namespace tovi::platform {
 
@@ -22,11 +23,19 @@ std::tm localTime(std::time_t time) {
 }
 
 std::string executableFolder() {
-  char path[MAX_PATH];
-  const DWORD length = ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-  if (length == MAX_PATH) return {};  // cut off
-  const std::string whole(path, length);
-  return whole.substr(0, whole.rfind('\\') + 1);
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD size = static_cast<DWORD>(path.size());
+    const DWORD length = ::GetModuleFileNameW(nullptr, path.data(), size);
+    if (length == 0) return {};
+    if (length < size) {
+      path.resize(length);
+      break;
+    }
+    path.resize(path.size() * 2);  // it was cut off
+  }
+  // In UTF-16, because a separator's byte may be half a character in some code pages.
+  return fromWide(::GetACP(), path.substr(0, path.rfind(L'\\') + 1)).value_or("");
 }
 
 }  // namespace tovi::platform

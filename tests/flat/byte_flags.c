@@ -1,0 +1,20 @@
+/* Calls as languages make them that pass a flag as any byte. */
+const char* setPower(const char* ip, unsigned short port, unsigned char on);
+const char* setBoardPowerAndScreenPower(const char* ip, unsigned short port, unsigned char on);
+const char* setVirtualConnection(const char* ip, unsigned short port, unsigned char on,
+                                 int interval, int value);
+void tovi_set_log_redaction(unsigned char redact);
+
+const char* setPowerByByte(const char* ip, unsigned short port, int on) {
+  return setPower(ip, port, (unsigned char)on);
+}
+
+const char* setBothPowersByByte(const char* ip, unsigned short port, int on) {
+  return setBoardPowerAndScreenPower(ip, port, (unsigned char)on);
+}
+
+const char* setLinkByByte(const char* ip, unsigned short port, int on) {
+  return setVirtualConnection(ip, port, (unsigned char)on, 60, 3);
+}
+
+void redactByByte(int redact) { tovi_set_log_redaction((unsigned char)redact); }

@@ -1,0 +1,51 @@
+#include "tests/support/failing_memory.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+thread_local bool gArmed = false;
+thread_local bool gFromThenOn = false;
+thread_local long gLeft = 0;  // until the one that fails; below 0 once it was asked for
+
+void* take(std::size_t size) noexcept {
+  if (gArmed) {
+    --gLeft;
+    if (gLeft == 0 || (gLeft < 0 && gFromThenOn)) return nullptr;
+  }
+  return std::malloc(size == 0 ? 1 : size);
+}
+
+void* takeOrThrow(std::size_t size) {
+  if (void* block = take(size)) return block;
+  throw std::bad_alloc();
+}
+
+}  // namespace
+
+namespace tovi::test {
+
+FailingMemory::FailingMemory(long n, bool fromThenOn) {
+  gLeft = n;
+  gFromThenOn = fromThenOn;
+  gArmed = true;
+}
+
+FailingMemory::~FailingMemory() { gArmed = false; }
+
+bool FailingMemory::struck() { return gLeft <= 0; }
+
+OwnMemory::OwnMemory() : mWasArmed(gArmed) { gArmed = false; }
+OwnMemory::~OwnMemory() { gArmed = mWasArmed; }
+
+}  // namespace tovi::test
+
+void* operator new(std::size_t size) { return takeOrThrow(size); }
+void* operator new[](std::size_t size) { return takeOrThrow(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return take(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return take(size); }
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete[](void* block) noexcept { std::free(block); }
+void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
