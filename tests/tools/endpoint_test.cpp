@@ -18,6 +18,7 @@ TEST(Endpoint, IsAnAddressOrANameAndAPort) {
                                    "7.sign:5005",
                                    "0xsign:1",
                                    "1.2.3.4.sign:1",
+                                   "sign.1:1",
                                    kLongestName + ":1"};
   for (const std::string& text : endpoints) {
     const auto endpoint = parseEndpoint(text);
