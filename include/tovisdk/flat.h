@@ -5,8 +5,9 @@
 /// Every function takes the controller's dotted IPv4 address and its TCP port first, opens a
 /// connection of its own, performs one command and gives a zero-terminated text. Nothing is kept
 /// from one call to the next: a call is always plain and always has the default time-out of 20
-/// seconds per send and read. Calls on different threads are independent. Null texts count as
-/// empty. Nothing is ever thrown.
+/// seconds per send and read. Calls on different threads are independent. Nothing is ever thrown.
+/// Where a text that is given is null, nothing is sent: "failed", or "success" of the kind that
+/// always says so, and a line in the log.
 ///
 /// A function's result is of one of these kinds:
 /// - status: "success" or "failed". Static; never free it.
@@ -19,9 +20,11 @@
 /// - none: "Interface not implemented"; nothing is sent. Static.
 ///
 /// In the descriptions of reports N stands for a decimal number, S for a text of the controller
-/// (converted to GBK where it is UTF-8, "?" for what GBK lacks) and T for a time "Y-M-D h:m:s", its
-/// fields as they stand in the record: years since 1900, months from 0. Texts with several tokens
-/// separate them by single spaces; numbers in them are decimal, and what is no number counts as 0.
+/// (converted from UTF-8 where GBK has all its characters; GBK stays as it came; of other UTF-8 "?"
+/// stands for what GBK lacks; anything else stays as it came) and T for a time "Y-M-D h:m:s", its
+/// fields as they stand in the record: years since 1900, months from 0. A text ends at its first
+/// zero byte. Texts with several tokens separate them by single spaces; numbers in them are
+/// decimal, and what is no number counts as 0.
 #ifndef TOVISDK_FLAT_H
 #define TOVISDK_FLAT_H
 
