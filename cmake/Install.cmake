@@ -49,7 +49,8 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/tovisdk.pc.in ${PROJECT_BINARY_DIR}/tov
 install(FILES ${PROJECT_BINARY_DIR}/tovisdk.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 # As in the source tree, so that the links from one to another hold.
-install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+install(FILES
+  ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/LICENSE
   DESTINATION ${doc_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_folder}
   FILES_MATCHING PATTERN "*.md")

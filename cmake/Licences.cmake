@@ -1,3 +1,8 @@
+# Where Debian looks for the licences of a package.
+if(NOT WIN32)
+  install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${doc_folder})
+endif()
+
 # The licences of what becomes part of our binaries, as they lie on the machine that builds: Debian
 # keeps one beside each of its packages.
 function(tovi_install_licence name file)

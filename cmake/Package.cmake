@@ -4,6 +4,7 @@ set(CPACK_PACKAGE_NAME tovisdk)
 set(CPACK_PACKAGE_CONTACT "ToviSDK developers <maintainers@tovisdk.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION
   "Headers, the library (shared and static), the command tovi and tovisim, a simulated controller.")
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_MONOLITHIC_INSTALL ON)
 set(CPACK_STRIP_FILES ON)
 

@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
-TOOL_PACKAGES=(g++ cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
+TOOL_PACKAGES=(g++ ccache cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
 TEST_PACKAGES=(libgtest-dev locales python3 mono-mcs libmono-i18n-cjk4.0-cil)
 CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config dpkg-dev file)
 
@@ -21,6 +21,16 @@ install_missing() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${missing[@]}" >/dev/null
 }
+
+# What was compiled once is not compiled again, in whichever clone it was: the scripts build through
+# ccache. The sloppiness is what precompiled headers and files that cmake has just written want.
+export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_C_COMPILER_LAUNCHER-ccache}
+export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-ccache}
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_ctime,include_file_mtime
+if [[ -n ${TOVISDK_CACHE:-} ]]; then
+  export CCACHE_DIR=${CCACHE_DIR:-$TOVISDK_CACHE/ccache}
+fi
 
 # Locales of our own, for tests that want a Chinese one: few systems have it.
 use_test_locales() {

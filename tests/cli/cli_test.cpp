@@ -591,7 +591,8 @@ TEST_F(Cli, EndsTheHelpOfACommandWithItsCodes) {
       {"send-file", "command 0x11, reply 0x12; then command 0x13, reply 0x14; then reply 0xF9", ""},
   };
   for (const auto& [command, codes, text] : cases) {
-    const std::string help = run(command + " --help").out;
+    std::string help = run(command + " --help").out;
+    std::erase(help, '\r');  // the system's line ends
     EXPECT_NE(help.find(text), std::string::npos) << help;
     EXPECT_TRUE(help.ends_with("\nOn the wire: " + codes + ".\n")) << help;
   }

@@ -86,7 +86,6 @@ TEST(Time, IsMillisecondsInUtc) {
 }
 
 constexpr char kEarly[] = "2024-03-01T08:00:00";
-constexpr char kLate[] = "2024-03-01T18:00:00";
 
 TEST(Progress, TellsShareRateAndRest) {
   EXPECT_EQ(progressText(0, 1000, 0),

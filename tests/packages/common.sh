@@ -27,7 +27,7 @@ expect_files() {
   shift
   for file in include/tovisdk/{tovisdk,flat,export}.h \
               lib/pkgconfig/tovisdk.pc lib/cmake/tovisdk/tovisdk-config.cmake \
-              share/doc/tovisdk/{README.md,CHANGELOG.md,docs/building.md,examples/c/first_call.c} \
+              share/doc/tovisdk/{LICENSE,README.md,CHANGELOG.md,docs/building.md,examples/c/first_call.c} \
               share/doc/tovisdk/licences/{cli11,nlohmann-json}.txt "$@"; do
     [[ -s $folder/$file ]] || fail "not in the package, or empty: $file"
   done
