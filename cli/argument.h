@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The kinds of argument that commands take. What one theme alone takes stands in its file.
 #pragma once
 

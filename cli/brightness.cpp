@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Brightness by hand and by the ambient light, and the volume.
 #include "cli/records.h"
 #include "cli/themes.h"

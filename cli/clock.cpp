@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The clock, its time zone and its synchronisation.
 #include <ctime>
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The picture: resolution, video input, smoothing, fonts and broken pixels.
 #include <climits>
 

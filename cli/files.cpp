@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files to the controller, and those on it.
 #include <filesystem>
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How --help looks.
 #pragma once
 

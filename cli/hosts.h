@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file that names many controllers.
 #pragma once
 

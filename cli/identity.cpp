@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Who the controller is and how it does.
 #include "cli/records.h"
 #include "cli/themes.h"

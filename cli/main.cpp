@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // tovi: every operation of a controller from the command line.
 #include <exception>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What keeps the controller in order.
 #include "cli/themes.h"
 

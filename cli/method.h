@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The library's methods, as the command table knows them.
 #pragma once
 

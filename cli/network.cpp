@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controller's addresses, and those that it knows.
 #include "cli/themes.h"
 #include "tools/endpoint.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is on the screen now.
 #include "cli/records.h"
 #include "cli/themes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a command line says besides the command.
 #pragma once
 

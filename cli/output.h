@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a command came to, and how it is shown.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Playlists: upload, play, delete, list.
 #include <list>
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Power of screen, board and relays.
 #include "cli/themes.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The progress of a file transfer on a terminal.
 #pragma once
 

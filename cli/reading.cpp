@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/reading.h"
 
 #include <tovisdk/text.h>

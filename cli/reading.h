@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turning words that a person typed into values.
 #pragma once
 

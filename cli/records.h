@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What queries give, as values to show. Names and numbers are meant for people: calendar times,
 // words for states, numbers as the setters take them. How a record of one theme is shown stands in
 // that theme's file; here is what any theme may give.

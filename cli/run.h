@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Running the chosen command; each gives the program's exit status.
 #pragma once
 

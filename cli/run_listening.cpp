@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/run.h"
 #include "platform/deadline.h"
 #include "platform/listener.h"

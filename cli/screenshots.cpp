@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures of the screen.
 #include <filesystem>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Enciphered traffic, on the controller's side.
 #include <algorithm>
 

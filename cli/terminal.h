@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Results on their way to a stream.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The themes of the commands, each in the file of its name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Calendar times as people write them.
 #pragma once
 

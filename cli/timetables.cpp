@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When the screen has power, which playlist plays and how bright it is.
 #include <ctime>
 #include <functional>

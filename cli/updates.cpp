@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Updates, and files that the controller fetches itself.
 #include <nlohmann/json.hpp>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Wireless networks, the mobile network and radio.
 #include "cli/themes.h"
 

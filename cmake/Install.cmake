@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # How a host finds the library: headers, libraries, the CMake package and the pkg-config file; and
 # what people read.
 include(CMakePackageConfigHelpers)

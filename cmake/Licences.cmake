@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Where Debian looks for the licences of a package.
 if(NOT WIN32)
   install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${doc_folder})

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Settings that hold for every target of ours and never reach a host's own code.
 
 set(tovi_warnings_are_errors)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What cpack makes: for Linux a Debian package and an archive, for Windows an archive.
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME tovisdk)

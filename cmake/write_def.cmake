@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Writes the module definition from which other compilers make an import library: the DLL's plain C
 # functions, without the linker's ordinals, which differ from one version to the next.
 #   cmake -DEXPORTS=<what the linker wrote> -DDLL=<its name> -DDEF=<to write> -P write_def.cmake

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Brightness, by hand and by the automatic curve, and the sound's volume.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes of the wire and how they read on a terminal.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/cipher.h"
 
 #include <openssl/evp.h>

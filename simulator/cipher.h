@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Payload ciphers of the controller, all through libcrypto's EVP.
 //
 //   des  single DES in CBC; the 8 characters of the text are key and initialisation vector

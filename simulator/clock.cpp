@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Date, time zone and network time.
 #include <charconv>
 #include <chrono>

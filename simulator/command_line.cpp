@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/command_line.h"
 
 #include <tovisdk/version.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the command line of tovisim says.
 #pragma once
 

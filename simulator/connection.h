@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One host that is connected: what it has sent so far and what is on its way to it.
 #pragma once
 

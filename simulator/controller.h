@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controller itself: state, files and the answers to commands. Knows no sockets, no frames and
 // no enciphering.
 #pragma once

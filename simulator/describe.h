@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Exchanges in words.
 #pragma once
 

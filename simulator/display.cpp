@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The output: resolution, EDID, video source, anti-aliasing, pre-stored screen, fonts, broken
 // pixels. Settings in JSON go both ways.
 #include "simulator/json.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/exchange.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One exchange from the frame that came to the frames that go: deciphers, asks the controller,
 // enciphers. No sockets.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files that come in (the name, numbered chunks, the controller's word at the end), the list of
 // those that are there, and clean-up.
 #include "simulator/files.h"

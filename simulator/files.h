@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controller's word on a file that has come in whole.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Commands the controller knows. A new one is a function and a row in the table of its theme; a new
 // theme is a file with a table, added to the list in controller.cpp.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Who the controller is, and what it measures and tells of itself: name, version, status block,
 // memory, system, surveillance.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The JSON that commands carry, in requests and in replies.
 #pragma once
 

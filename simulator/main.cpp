@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // tovisim: a simulated display controller to try hosts against.
 #include <chrono>
 #include <exception>

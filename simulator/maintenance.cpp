@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What service staff use: restart, the temperature that turns the screen off, backups, SSH, logs,
 // sensors, apps, caches.
 #include "simulator/shapes.h"

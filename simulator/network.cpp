@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Addresses and links: the controller's own address, its virtual connection, the address it pings,
 // servers, the hosts it lets in.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the screen is showing.
 #include "simulator/playlists.h"
 #include "simulator/shapes.h"

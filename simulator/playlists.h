@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Playlists are files whose names hold their numbers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Power of the screen, its boards, relays and cards.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/schedules.h"
 
 #include "simulator/handlers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Timetables that outlive the process: the requests that set them, kept to be made again.
 #pragma once
 

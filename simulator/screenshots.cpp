@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the display shows, as a picture that comes in pieces.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which key the controller holds. A change takes hold with the next request.
 //
 //   secret parameters = mode, enable, label, 91 21 [, key] [, 91 21, second key]

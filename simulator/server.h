@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A simulated controller on the network, in this process.
 #pragma once
 

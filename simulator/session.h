@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What belongs to one connection and ends with it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/shapes.h"
 
 #include "tools/printable.h"

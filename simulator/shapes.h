@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Settings and queries of the shapes that recur, and how values read in a line.
 #pragma once
 

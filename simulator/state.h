@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Everything a controller remembers, but for its files. Texts are in whatever encoding the host
 // sent.
 #pragma once

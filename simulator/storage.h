@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files that hosts have sent, in memory or in a folder.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Timetables of power, playing and brightness, advance timing.
 //
 //   list  = number of entries, entries

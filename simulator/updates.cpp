@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Updates, on the controller already or to be downloaded.
 #include "simulator/shapes.h"
 

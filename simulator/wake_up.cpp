@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/wake_up.h"
 
 #include <string>

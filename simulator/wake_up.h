@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Wakes a thread that waits for sockets.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The frame on the wire, from the controller's side. Nothing here is shared with the library, so
 // that a mistake on one side shows on the other.
 //

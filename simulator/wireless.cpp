@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Radio: Wi-Fi and access point, mobile network and SIM card, LoRa, RDS.
 #include <algorithm>
 

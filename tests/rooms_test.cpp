@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A line is found from the layout alone: what belongs to one theme stands in files of one name.
 #include <gtest/gtest.h>
 

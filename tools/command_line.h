@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the command lines of our programs have in common.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a program is on the network, as people write it.
 #pragma once
 

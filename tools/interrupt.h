@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ctrl-C and the system's request to end, for work that can stop in order.
 #pragma once
 

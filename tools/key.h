@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keys of enciphered exchanges, as people write them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Numbers that people type.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/printable.h"
 
 #include <algorithm>

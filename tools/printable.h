@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts of strangers on their way to a terminal.
 #pragma once
 

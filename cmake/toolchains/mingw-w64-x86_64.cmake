@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Windows x64 from Linux, with mingw-w64 and its POSIX threads. What is not the compiler's own
 # (libcrypto, GoogleTest, headers) is looked for in TOVISDK_WINDOWS_PREFIX alone, so that nothing of
 # the building machine is picked up.

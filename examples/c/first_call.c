@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /* A host in C99 on the flat face: sets the brightness, reads the status report and shows it.
  *
  *   first_call ADDRESS PORT [LEVEL]

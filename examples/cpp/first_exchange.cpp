@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small host: sets the brightness of a controller and reads it back.
 //
 //   first_exchange ADDRESS PORT [LEVEL]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host in C# on the flat face: sets the brightness and a name in Chinese, reads both back and
 // shows them.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The flat face of ToviSDK for .NET: a beginning, to be extended by the lines a host needs.
 //
 // The library is tovisdk.dll beside the program on Windows, libtovisdk.so where the loader looks on

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """A host in Python on the flat face, with the standard library alone.
 
     first_call.py LIBRARY ADDRESS PORT [LEVEL]

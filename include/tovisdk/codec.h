@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Integers in byte buffers, and the checksum of frames.
 ///

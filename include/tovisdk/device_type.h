@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The status block of a controller.
 #ifndef TOVISDK_DEVICE_TYPE_H

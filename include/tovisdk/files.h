@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Local files, as transfers use them. Paths are in the local code page.
 #ifndef TOVISDK_FILES_H

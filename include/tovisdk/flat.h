@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The flat face of ToviSDK: one plain function per device command, for hosts in any language that
 /// can call C. Compiles as C99 and as C++.

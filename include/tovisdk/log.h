@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The library's log, for hosts that write into it too. Where it goes: <tovisdk/log_control.h>.
 ///

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// What a host may say about the log and the library's other words, from any language. Compiles as
 /// C99 and as C++.

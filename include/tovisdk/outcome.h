@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Why an operation ended as it did.
 #ifndef TOVISDK_OUTCOME_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Building frames.
 #ifndef TOVISDK_PACKET_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Finding replies in the bytes that arrive on a connection.
 #ifndef TOVISDK_PROTOCAL_PARSER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// What settings take and queries give, beyond single numbers and texts.
 ///

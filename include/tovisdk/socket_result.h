@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The reply to one query.
 #ifndef TOVISDK_SOCKET_RESULT_H

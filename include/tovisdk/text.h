@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// Small text helpers, and the release of what the library allocated. Where memory is out, texts
 /// and lists come back empty and numbers as 0.

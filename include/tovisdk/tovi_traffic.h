@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// One controller: the object through which a host sets and reads it.
 #ifndef TOVISDK_TOVI_TRAFFIC_H

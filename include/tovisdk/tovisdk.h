@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The whole object face of ToviSDK: include this one.
 #ifndef TOVISDK_TOVISDK_H

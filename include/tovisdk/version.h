@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// @file
 /// The library's version. This is the only place that holds it: the build reads it from here.
 #ifndef TOVISDK_VERSION_H

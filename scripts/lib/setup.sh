@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by the scripts: strict mode, the project's root as working folder, and installing what is
 # missing. Debian 12 is what we know the package names of.
 set -euo pipefail

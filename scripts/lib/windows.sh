@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced after setup.sh by the scripts for Windows.
 
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix cmake ninja-build make perl dpkg-dev

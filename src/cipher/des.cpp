@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #define OPENSSL_SUPPRESS_DEPRECATED
 
 #include "cipher/des.h"

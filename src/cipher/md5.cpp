@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cipher/md5.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cipher/sm4.h"
 
 #include <openssl/err.h>

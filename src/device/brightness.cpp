@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Brightness, by hand and by the ambient light, and volume.
 #include "session/operation.h"
 

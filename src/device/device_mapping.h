@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The list of attached devices that a controller describes in JSON.
 #pragma once
 

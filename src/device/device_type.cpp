@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/device_type.h>
 
 DeviceType::DeviceType() : date(nullptr) {}

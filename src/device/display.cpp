@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Resolution, timing, video input, fonts and broken pixels.
 #include <algorithm>
 

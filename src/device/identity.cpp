@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Who the controller is and how it is.
 #include <charconv>
 #include <memory>

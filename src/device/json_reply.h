@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Replies and requests whose text is JSON.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Restart, clean state, and what only service staff use.
 #include <memory>
 

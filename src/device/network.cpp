@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Addresses, and the hosts that the controller knows.
 #include <tovisdk/codec.h>
 

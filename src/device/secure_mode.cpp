@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controller's own secure mode.
 #include "session/operation.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The three timetables and the advance timing.
 #include <tovisdk/codec.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Wireless network, mobile network, and radio.
 #include "session/operation.h"
 

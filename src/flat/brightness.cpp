@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Brightness and volume.
 #include "flat/flat_face.h"
 

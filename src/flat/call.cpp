@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flat/call.h"
 
 #include "foundation/bytes.h"

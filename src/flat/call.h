@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The frame that all flat functions share: the " start" line, a short-lived session, one method, a
 // text. One function per kind of result; none lets an exception out, because no host could catch
 // it. Each takes the method itself, or what else can be called with the session first, and the

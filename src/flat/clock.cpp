@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The clock.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Display and video.
 #include "flat/flat_face.h"
 

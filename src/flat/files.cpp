@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files.
 #include "flat/flat_face.h"
 

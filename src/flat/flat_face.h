@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // <tovisdk/flat.h> for the functions' definitions. Hosts in other languages put any byte where C
 // has a bool (-1 is common), and a compiler may take the lowest bit of one for the whole; so here
 // it is what it is on the way, a byte.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flat/grammar.h"
 
 #include <tovisdk/codec.h>

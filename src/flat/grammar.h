@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts that stand for structured arguments: tokens separated by single spaces. What is no number
 // counts as 0, and tokens that do not fill a group are left out.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Identity and status.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Labels of the reports, in GBK. Written as escapes so that no compiler has to be told what
 // encoding a source file has; the comment says how each reads.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Maintenance.
 #include "flat/flat_face.h"
 

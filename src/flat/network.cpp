@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The network.
 #include "flat/flat_face.h"
 

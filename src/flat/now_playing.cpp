@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is playing.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Playlists.
 #include "flat/flat_face.h"
 

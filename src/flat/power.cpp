@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Power and relays.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flat/report_text.h"
 
 #include <algorithm>

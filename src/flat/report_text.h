@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts of reports, made from what the methods return. GBK throughout.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Screenshots.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Secure mode.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Calls that have no effect on later ones.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Timetables.
 #include "flat/flat_face.h"
 

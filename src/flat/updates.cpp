@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Updates.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Wireless and mobile.
 #include "flat/flat_face.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "foundation/bytes.h"
 
 namespace tovi {

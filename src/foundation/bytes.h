@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes inside the library, and on their way out of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hosts in other languages put any byte where C++ has a bool; here it is read as the byte it is.
 #define bool unsigned char
 #include <tovisdk/log_control.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Records of the library itself. The public functions of <tovisdk/log.h> stand on the same writer;
 // these spare the library the copy of each format and let the compiler check the arguments.
 #pragma once

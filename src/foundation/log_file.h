@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where records are written: the day's file.
 #pragma once
 

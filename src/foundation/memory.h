@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where memory may run out.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/text.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text helpers as the library itself uses them: memory that is out is thrown, so that no half
 // of a text passes for the whole.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/version.h>
 
 #define TOVI_TEXT_OF(number) #number

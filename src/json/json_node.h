@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tree that a JSON text stands for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The JSON object with which commands build request texts and read reply texts.
 #pragma once
 

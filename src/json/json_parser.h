@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // JSON text to tree.
 #pragma once
 

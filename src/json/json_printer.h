@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tree to JSON text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The words and the standard streams of a command-line program.
 #pragma once
 

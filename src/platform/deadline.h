@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The end of a bounded wait, told in the milliseconds that a poll call takes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files and folders. Paths are in the local code page, as hosts write them.
 #pragma once
 

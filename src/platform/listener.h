@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The accepting side of TCP, for the simulated controller and for tests.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names of hosts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Between paths and UTF-8. The standard library takes a narrow text for UTF-8 on some systems only.
 #pragma once
 

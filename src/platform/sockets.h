@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TCP sockets as the library needs them, whatever the operating system calls them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time, pauses and the running program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversions between text encodings.
 #pragma once
 

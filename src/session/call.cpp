@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/call.h"
 
 #include "foundation/log.h"

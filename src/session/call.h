@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What every public method that meets a controller begins with.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/tovi_traffic.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exchange patterns: a setting that answers with a status byte, and a query.
 #include "foundation/bytes.h"
 #include "foundation/log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The three key slots.
 #include <tovisdk/tovi_traffic.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/operation.h"
 
 namespace tovi::session {

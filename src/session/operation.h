@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shapes behind the commands.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/outcome.h>
 
 const char* toviOutcomeText(ToviOutcome outcome) {

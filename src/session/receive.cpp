@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The receive loop.
 #include <algorithm>
 #include <memory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading what a controller answered.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Requests: the choice of the cipher, and the one send that carries a frame.
 #include "foundation/bytes.h"
 #include "foundation/log.h"

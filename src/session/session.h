@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the layers above need of a ToviTraffic: a connection, requests and replies, the exchange
 // patterns, the outcome.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/socket_result.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files to the controller and their names: a file's name, numbered chunks, the confirmation of the
 // end.
 #include "transfer/files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The messages of a file, which playlists are sent by, too.
 #pragma once
 

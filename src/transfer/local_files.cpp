@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/local_files.h"
 
 #include <tovisdk/files.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files on this machine. Paths are in the local code page and therefore stay plain texts: the
 // standard library takes a narrow path object for UTF-8 on some systems.
 #pragma once

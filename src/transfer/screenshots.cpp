@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A picture of the screen, piece by piece into a local file.
 #include <string_view>
 

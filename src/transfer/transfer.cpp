@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/transfer.h"
 
 #include "foundation/log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shape behind operations that take several steps on one connection.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Updates and downloads.
 #include "foundation/log.h"
 #include "session/operation.h"

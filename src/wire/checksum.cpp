@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "wire/checksum.h"
 
 #include <tovisdk/codec.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The checksum of frames.
 #pragma once
 

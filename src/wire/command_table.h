@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every command of the protocol, one row each: all methods, the simulator, the tools and the
 // documents take their numbers from here.
 #pragma once

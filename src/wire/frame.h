@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the frame format's two sides share beyond the constants of ProtocalParser.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "wire/packet_builder.h"
 
 #include <tovisdk/packet.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Building frames.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "wire/packet_receiver.h"
 
 #include <memory>

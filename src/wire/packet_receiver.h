@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A session's view of its parser: packages as texts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cipher/aes.h"
 
 #include <gtest/gtest.h>

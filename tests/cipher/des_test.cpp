@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cipher/des.h"
 
 #include <gtest/gtest.h>

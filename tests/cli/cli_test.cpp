@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program itself against a simulated controller.
 #include <gtest/gtest.h>
 

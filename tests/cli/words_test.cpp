@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What people type: hosts, numbers, times.
 #include <gtest/gtest.h>
 

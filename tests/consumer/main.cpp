@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Uses something of each public header; succeeds when nobody listens, as nobody does on port 1.
 #include <tovisdk/tovisdk.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Functions that a host may well have, and that the library must not call in place of its own.
 #include <cstdlib>
 #include <ctime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Frames, timetables and addresses as the library makes them, whatever namesakes.cpp does.
 #include <tovisdk/flat.h>
 #include <tovisdk/packet.h>

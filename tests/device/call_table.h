@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What each method sends and makes of the answer, one row a case.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "device/device_mapping.h"
 
 #include <gtest/gtest.h>

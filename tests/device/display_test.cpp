@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/device/call_table.h"
 
 namespace tovi::test {

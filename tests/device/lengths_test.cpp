@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What still fits a frame, with each key and without one.
 #include <gtest/gtest.h>
 #include <tovisdk/tovisdk.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ownership of what methods return by pointer.
 #include <gtest/gtest.h>
 

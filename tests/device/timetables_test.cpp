@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/codec.h>
 
 #include "tests/device/call_table.h"

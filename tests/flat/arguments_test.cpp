@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Arguments that no careful host would pass: an answer of the function's kind, and nothing broken.
 #include <tovisdk/flat.h>
 #include <tovisdk/text.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /* Calls as languages make them that pass a flag as any byte. */
 const char* setPower(const char* ip, unsigned short port, unsigned char on);
 const char* setBoardPowerAndScreenPower(const char* ip, unsigned short port, unsigned char on);

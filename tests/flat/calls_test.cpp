@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What each flat function sends, and the text that it makes of the answer.
 #include <tovisdk/flat.h>
 #include <tovisdk/text.h>

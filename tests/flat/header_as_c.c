@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/flat.h>
 
 /* Something of it must be usable, too. */

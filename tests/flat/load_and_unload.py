@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Loads and unloads the library many times, with an exchange each time, and looks at what stays.
 
     load_and_unload.py LIBRARY ADDRESS PORT

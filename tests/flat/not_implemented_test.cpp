@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/flat.h>
 
 #include "tests/support/fake_platform_test.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Many threads, one controller, and the log on: no race, every text right, every record whole.
 #include <gtest/gtest.h>
 

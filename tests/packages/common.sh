@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by the checks of packages, which get the build folder as $1: strict mode, a scratch folder
 # that goes away, and what they share.
 set -euo pipefail

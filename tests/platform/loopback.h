@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Two ends of one loopback connection, for tests of the platform layer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What only POSIX knows: signals, descriptors and non-blocking sockets of a host.
 #include <fcntl.h>
 #include <gtest/gtest.h>

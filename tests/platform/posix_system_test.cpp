@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Locales and standard streams, which a test can set on POSIX alone.
 #include <gtest/gtest.h>
 #include <tovisdk/text.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/fake_platform_test.h"
 #include "tests/support/hex.h"
 #include "tests/support/test_access.h"

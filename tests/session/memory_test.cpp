@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Memory that runs out at every point at which the library asks for it.
 #include <gtest/gtest.h>
 #include <tovisdk/flat.h>

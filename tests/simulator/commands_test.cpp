@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the controller answers to each command, and that getters tell what setters set.
 #include <gtest/gtest.h>
 

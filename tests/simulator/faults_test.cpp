@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Misbehaviour on request.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files, keys and faults of single commands on the wire. All frames were computed with openssl and
 // a separate checksum.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/simulator/uploads.h"
 
 namespace tovi::sim {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Playlists and what the screen tells of the one that plays.
 #include "tests/simulator/uploads.h"
 

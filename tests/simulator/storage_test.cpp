@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/storage.h"
 
 #include <gtest/gtest.h>

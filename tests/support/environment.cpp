@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests on the real platform want for as long as they run.
 #include <gtest/gtest.h>
 #include <tovisdk/log.h>

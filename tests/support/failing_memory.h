@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Memory that runs out when a test says so.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A scripted platform in place of the operating system: tests say what each call meets, and read
 // afterwards what was asked of it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/heap_probe.h"
 
 #include <cstdlib>

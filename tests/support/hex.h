@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes as tests write them.
 #pragma once
 

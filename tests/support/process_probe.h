@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What this process holds, as far as a difference of two readings tells.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Compiled without access control: the public headers have no door for tests.
 #include "tests/support/test_access.h"
 

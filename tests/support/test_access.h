@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The private transport methods, for tests of what no command reaches by itself.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/wire.h"
 
 #include "tests/support/hex.h"

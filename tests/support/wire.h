@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Frames as the wire has them, built by a second hand: tests write what a frame carries, and this
 // adds the rest without any code of the library.
 #pragma once

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Sends a large file through tovi to tovisim: it must arrive whole, and the sender must stay small.
 
     big_file.py TOVI TOVISIM MEGABYTES

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files over real sockets on loopback.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whole files to the simulated controller, plain and with each cipher.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every step of the two uploads under every way in which its answer can fail.
 #include "tests/support/fake_platform_test.h"
 #include "tests/support/process_probe.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The operations of one exchange, and downloads.
 #include "tests/device/call_table.h"
 #include "tests/support/fake_platform_test.h"

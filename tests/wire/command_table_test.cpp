@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "wire/command_table.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <tovisdk/packet.h>
 #include <tovisdk/text.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the connecting and the accepting side share.
 #pragma once
 

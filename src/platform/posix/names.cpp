@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/names.h"
 
 #include <arpa/inet.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/listener.h"
 
 #include <winsock2.h>

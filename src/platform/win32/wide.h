@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Between UTF-16 and the code pages.
 #pragma once
 
