@@ -86,8 +86,6 @@ TEST(Time, IsMillisecondsInUtc) {
   EXPECT_EQ(utcText(-9'223'372'036'854'775'807 - 1), "-9223372036854775808");
 }
 
-constexpr char kEarly[] = "2024-03-01T08:00:00";
-
 TEST(Progress, TellsShareRateAndRest) {
   EXPECT_EQ(progressText(0, 1000, 0),
             "  0% [>                             ]  0.0 kB/s  --:-- left");

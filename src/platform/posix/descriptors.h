@@ -21,8 +21,8 @@ inline int descriptorOf(Socket socket) { return socket <= INT_MAX ? static_cast<
 // would otherwise travel to the controller.
 Socket adoptDescriptor(int descriptor);
 
-// Nothing unless the text is an IPv4 address as inet_addr reads it: fields with leading zeros, which
-// make them octal, fewer than four fields, and a closing blank are good.
+// Nothing unless the text is an IPv4 address as inet_addr reads it: fields with leading zeros,
+// which make them octal, fewer than four fields, and a closing blank are good.
 std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port);
 
 }  // namespace tovi::platform

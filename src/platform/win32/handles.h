@@ -16,8 +16,8 @@ Socket adoptHandle(SOCKET handle);
 
 void setBlocking(SOCKET handle, bool blocking);
 
-// Nothing unless the text is an IPv4 address as inet_addr reads it: fields with leading zeros, which
-// make them octal, fewer than four fields, and a closing blank are good.
+// Nothing unless the text is an IPv4 address as inet_addr reads it: fields with leading zeros,
+// which make them octal, fewer than four fields, and a closing blank are good.
 std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port);
 
 }  // namespace tovi::platform
