@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Hosts in other languages put any byte where C++ has a bool; here it is read as the byte it is.
+#if defined(__clang__)
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define bool unsigned char
 #include <tovisdk/log_control.h>
 #undef bool

@@ -52,8 +52,6 @@ std::string owned(const Result& result) {
   return told(result);
 }
 
-const BrightnessItem kCurve;
-
 struct Case {
   const char* name;
   std::function<std::string(ToviTraffic&)> call;
