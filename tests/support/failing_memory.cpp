@@ -10,6 +10,7 @@ thread_local bool gArmed = false;
 thread_local bool gFromThenOn = false;
 thread_local long gLeft = 0;  // until the one that fails; below 0 once it was asked for
 
+#ifdef TOVI_FAILS_MEMORY
 void* take(std::size_t size) noexcept {
   if (gArmed) {
     --gLeft;
@@ -22,6 +23,7 @@ void* takeOrThrow(std::size_t size) {
   if (void* block = take(size)) return block;
   throw std::bad_alloc();
 }
+#endif
 
 }  // namespace
 
@@ -42,6 +44,7 @@ OwnMemory::~OwnMemory() { gArmed = mWasArmed; }
 
 }  // namespace tovi::test
 
+#ifdef TOVI_FAILS_MEMORY
 void* operator new(std::size_t size) { return takeOrThrow(size); }
 void* operator new[](std::size_t size) { return takeOrThrow(size); }
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return take(size); }
@@ -50,3 +53,4 @@ void operator delete(void* block) noexcept { std::free(block); }
 void operator delete[](void* block) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
+#endif
