@@ -21,6 +21,7 @@ FileReader::FileReader(const char* path) : mFile(path, std::ios::binary) {
   mFile.seekg(0);
   // Some systems open folders and give them a size; only a read tells.
   if (mSize > 0) mFile.peek();
+  if (!mFile.good()) mSize = 0;
 }
 
 long long FileReader::read(std::span<char> room) {
