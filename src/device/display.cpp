@@ -170,8 +170,8 @@ ScreenPointDetect ToviTraffic::startScreenPointDetect() {
 }
 
 std::string ToviTraffic::getDetectErrorPointInfo() {
-  constexpr const wire::Command& kDetect = wire::command("startScreenPointDetect");
-  constexpr const wire::Command& kParts = wire::command("getDetectErrorPointData");
+  static constexpr const wire::Command& kDetect = wire::command("startScreenPointDetect");
+  static constexpr const wire::Command& kParts = wire::command("getDetectErrorPointData");
   Call call(*this, "getDetectErrorPointInfo");
   return call.guarded(std::string(), [&] {
     Session session = call.session();

@@ -42,7 +42,7 @@ char* getBrightnessByTimeList(const char* ip, unsigned short port) {
   return value({__func__, ip, port}, [name = __func__](ToviTraffic& session) {
     std::list<BrightnessByTimeParam>* list = session.getBrightnessByTimeList();
     const bool answered = list != nullptr;
-    const std::string text = ended(timetableText(name, list));
+    std::string text = ended(timetableText(name, list));
     if (answered) log::info("getBrightnessByTimeList result = %s", text.c_str());
     return text;
   });
