@@ -1,9 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "cli/argument.h"
 
+#include <CLI/CLI.hpp>
 #include <cctype>
+#include <utility>
 
 namespace tovi::cli {
+
+void declare(CLI::App& command, Placeholder placeholder) {
+  const auto take = [name = placeholder.name,
+                     take = std::move(placeholder.take)](const std::vector<std::string>& words) {
+    try {
+      take(words);
+    } catch (const Unusable& reason) {
+      throw CLI::ValidationError(name, reason.what());
+    }
+    return true;
+  };
+  CLI::Option* option = command.add_option(placeholder.name, take, placeholder.help);
+  option->required(placeholder.required);
+  if (placeholder.takesTheRest) {
+    option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
+  }
+}
 
 Argument<int> number(const std::string& name, const std::string& help, int least, int most) {
   return argument(name, help, [least, most](const std::string& given) {

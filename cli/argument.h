@@ -2,7 +2,6 @@
 // The kinds of argument that commands take. What one theme alone takes stands in its file.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <memory>
 #include <string>
@@ -11,7 +10,23 @@
 #include "cli/method.h"
 #include "cli/reading.h"
 
+// Its header takes a compiler longer than a whole theme; the few files that need it include it.
+namespace CLI {
+class App;
+}
+
 namespace tovi::cli {
+
+// What an argument is to the reader of the command line: `take` is called with the words that are
+// given for it, and may throw Unusable.
+struct Placeholder {
+  std::string name;
+  std::string help;
+  bool takesTheRest;
+  bool required;
+  std::function<void(const std::vector<std::string>&)> take;
+};
+void declare(CLI::App& command, Placeholder placeholder);
 
 // One argument of a command: how it is called, and how its words become a value.
 template <class Value>
@@ -25,17 +40,10 @@ struct Argument {
   // Gives where the value will stand once the command line is read.
   std::shared_ptr<Value> declare(CLI::App& command) const {
     auto value = std::make_shared<Value>();
-    const auto take = [read = read, name = name, value](const std::vector<std::string>& words) {
-      try {
-        *value = read(words);
-      } catch (const Unusable& reason) {
-        throw CLI::ValidationError(name, reason.what());
-      }
-      return true;
+    const auto take = [read = read, value](const std::vector<std::string>& words) {
+      *value = read(words);
     };
-    CLI::Option* option = command.add_option(name, take, help)->required(required);
-    if (takesTheRest)
-      option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
+    cli::declare(command, {name, help, takesTheRest, required, take});
     return value;
   }
 };

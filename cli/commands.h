@@ -2,7 +2,6 @@
 // The commands of the program.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -102,11 +101,10 @@ class Commands {
            const Arguments&... arguments) {
     const std::string name = method.command();
     for (CLI::App* parent : mParents) {
-      CLI::App* command = parent->add_subcommand(name, help)->group(mGroup);
-      command->footer(parent->get_footer() + "\nOn the wire: " + method.onTheWire() + ".");
+      CLI::App& command = addTo(*parent, method, help);
       // In braces, as those are worked through from left to right.
-      const std::tuple values{argumentOf(method, arguments).declare(*command)...};
-      command->callback([this, name, operation, values] {
+      const std::tuple values{argumentOf(method, arguments).declare(command)...};
+      whenGiven(command, [this, name, operation, values] {
         mChosen = name;
         mAction = [operation, values](Call& call) {
           return std::apply([&](const auto&... value) { return operation(call, *value...); },
@@ -123,6 +121,9 @@ class Commands {
   Result run(Call& call) const { return mAction(call); }
 
  private:
+  CLI::App& addTo(CLI::App& parent, const Method& method, const std::string& help) const;
+  static void whenGiven(CLI::App& command, std::function<void()> action);
+
   std::vector<CLI::App*> mParents;
   std::string mGroup;
   std::string mChosen;

@@ -2,7 +2,6 @@
 // What a command line says besides the command.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +10,9 @@
 #include "tools/key.h"
 
 class ToviTraffic;
+namespace CLI {
+class App;
+}
 
 namespace tovi::cli {
 

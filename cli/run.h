@@ -7,7 +7,7 @@
 
 #include "cli/commands.h"
 #include "cli/options.h"
-#include "tools/command_line.h"
+#include "tools/exit_status.h"
 
 namespace tovi::cli {
 

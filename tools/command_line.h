@@ -7,12 +7,9 @@
 #include <string>
 #include <string_view>
 
-namespace tovi::tools {
+#include "tools/exit_status.h"
 
-// Exit statuses.
-inline constexpr int kDone = 0;
-inline constexpr int kFailed = 1;
-inline constexpr int kUsage = 2;
+namespace tovi::tools {
 
 // An option whose text becomes a value through `parse`; `complaint` says what it should have been,
 // without the text, which may be secret.
