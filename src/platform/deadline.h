@@ -5,6 +5,8 @@
 #include <chrono>
 #include <optional>
 
+#include "platform/stop.h"
+
 namespace tovi::platform {
 
 class Deadline {
@@ -25,6 +27,12 @@ class Deadline {
     if (!end_) return -1;
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(*end_ - Clock::now()).count();
     return left > 0 ? static_cast<int>(left) : 0;
+  }
+
+  // The same for a wait that somebody may stop: no longer than until the next look at that.
+  int remainingMs(Stop stop) const {
+    const int left = remainingMs();
+    return stop != nullptr && (left < 0 || left > kStopLookMs) ? kStopLookMs : left;
   }
 
  private:

@@ -5,10 +5,15 @@
 #include <ctime>
 #include <string>
 
+#include "platform/stop.h"
+
 namespace tovi::platform {
 
-// Suspends the calling thread for at least that long, interrupted or not.
-void pauseFor(int milliseconds);
+// Suspends the calling thread for at least that long, interrupted or not, unless it is stopped.
+void pauseFor(int milliseconds, Stop stop = nullptr);
+
+// Milliseconds of a clock that nobody sets; more than 0.
+long long steadyMs();
 
 // Seconds since 1970-01-01 00:00 UTC.
 std::time_t now();

@@ -83,14 +83,19 @@ int receiveTimeout(Socket) {
   return fakePlatform().hostReceiveTimeout;
 }
 
-bool connectSocket(Socket, const char* address, std::uint16_t port, int) {
+bool connectSocket(Socket, const char* address, std::uint16_t port, int, Stop) {
   const test::OwnMemory own;
   if (address == nullptr || fakePlatform().connectFails) return false;
   fakePlatform().connections.push_back(std::string(address) + ":" + std::to_string(port));
   return true;
 }
 
-int sendAll(Socket, std::string_view bytes, int timeoutMs) {
+bool isQuiet(Socket) {
+  const test::OwnMemory own;
+  return fakePlatform().incoming.empty();
+}
+
+int sendAll(Socket, std::string_view bytes, int timeoutMs, Stop) {
   const test::OwnMemory own;
   fakePlatform().sendTimeouts.push_back(timeoutMs);
   if (fakePlatform().sendFails) return -1;
@@ -98,10 +103,11 @@ int sendAll(Socket, std::string_view bytes, int timeoutMs) {
   return static_cast<int>(bytes.size());
 }
 
-int receiveSome(Socket, std::span<char> buffer, int timeoutMs) {
+int receiveSome(Socket, std::span<char> buffer, int timeoutMs, Stop) {
   const test::OwnMemory own;
   fakePlatform().receiveTimeouts.push_back(timeoutMs);
   fakePlatform().receiveSizes.push_back(buffer.size());
+  fakePlatform().steadyMs += fakePlatform().msPerRead;
   if (fakePlatform().incoming.empty()) return -1;
   Incoming& next = fakePlatform().incoming.front();
   int result = next.kind == Incoming::Kind::Failure ? -1 : 0;
@@ -120,9 +126,14 @@ int lastSocketError() {
   return fakePlatform().socketError;
 }
 
-void pauseFor(int milliseconds) {
+void pauseFor(int milliseconds, Stop) {
   const test::OwnMemory own;
   fakePlatform().pauses.push_back(milliseconds);
+}
+
+long long steadyMs() {
+  const test::OwnMemory own;
+  return fakePlatform().steadyMs;
 }
 
 std::time_t now() {

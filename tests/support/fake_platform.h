@@ -35,6 +35,8 @@ struct FakePlatform {
   std::set<std::string> folders;  // those that exist, with their closing separator
   std::tm localTime{};            // what the clock shows
   std::time_t now = 0;
+  long long steadyMs = 1;
+  int msPerRead = 0;  // how far each read moves that clock
 
   // The record.
   int startUps = 0;

@@ -20,46 +20,36 @@ namespace tovi::platform {
 
 namespace {
 
-// Waits for an event; false when the deadline had passed before. Whatever the answer of poll, the
-// caller tries its call again: only that tells what happened.
-bool awaitEvent(int descriptor, short event, const Deadline& deadline) {
-  const int remaining = deadline.remainingMs();
-  if (remaining == 0) {
-    errno = EAGAIN;
-    return false;
+// Waits for an event; false, with EAGAIN, when the deadline has passed or the wait is stopped.
+// After any event the caller tries its call again: only that tells what happened.
+bool awaitEvent(int descriptor, short event, const Deadline& deadline, Stop stop) {
+  for (;;) {
+    const int remaining = deadline.remainingMs(stop);
+    if (remaining == 0 || isStopped(stop)) {
+      errno = EAGAIN;
+      return false;
+    }
+    pollfd watched{descriptor, event, 0};
+    const int ready = ::poll(&watched, 1, remaining);
+    if (ready < 0 && errno != EINTR) return false;
+    if (ready <= 0) continue;
+    // An error report that the retried call does not take away, such as a time stamp in the error
+    // queue of a host's socket, would turn the wait into a busy loop.
+    if ((watched.revents & event) == 0) pauseFor(1);
+    return true;
   }
-  pollfd watched{descriptor, event, 0};
-  const int ready = ::poll(&watched, 1, remaining);
-  if (ready < 0) return errno == EINTR;
-  // An error report that the retried call does not take away, such as a time stamp in the error
-  // queue of a host's socket, would turn the wait into a busy loop.
-  if (ready > 0 && (watched.revents & event) == 0) pauseFor(1);
-  return true;
 }
 
-// Repeats a call that never waits by itself until it succeeds, fails or the deadline has passed.
-template <typename Call>
-ssize_t untilDone(int descriptor, short event, const Deadline& deadline, Call call) {
-  for (;;) {
-    const ssize_t result = call();
-    if (result >= 0) return result;
-    if (errno == EINTR) continue;
-    if (errno != EAGAIN && errno != EWOULDBLOCK) return -1;
-    if (!awaitEvent(descriptor, event, deadline)) return -1;
-  }
-}
+// Whether a call that never waits by itself shall be tried again.
+bool wouldWait() { return errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK; }
 
 // Connects a non-blocking socket; 0 or the error number.
-int connectWithin(int descriptor, const sockaddr_in& peer, const Deadline& deadline) {
+int connectWithin(int descriptor, const sockaddr_in& peer, const Deadline& deadline, Stop stop) {
   if (::connect(descriptor, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) == 0) return 0;
   if (errno != EINPROGRESS && errno != EINTR) return errno;
-  pollfd watched{descriptor, POLLOUT, 0};
-  int ready = 0;
-  do {
-    ready = ::poll(&watched, 1, deadline.remainingMs());
-  } while (ready < 0 && errno == EINTR);
-  if (ready < 0) return errno;
-  if (ready == 0) return ETIMEDOUT;
+  if (!awaitEvent(descriptor, POLLOUT, deadline, stop)) {
+    return errno == EAGAIN ? ETIMEDOUT : errno;
+  }
   int error = 0;
   socklen_t size = sizeof error;
   return ::getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 ? error : errno;
@@ -94,7 +84,11 @@ std::optional<sockaddr_in> ipv4Address(const char* address, std::uint16_t port) 
 StartUp startUpSockets() { return StartUp::Ready; }
 void cleanUpSockets() {}
 
-Socket openSocket() { return adoptDescriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)); }
+// It never blocks by itself: waits are bounded here, and a blocking connect that a signal
+// interrupts could not be resumed.
+Socket openSocket() {
+  return adoptDescriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+}
 
 void closeSocket(Socket socket) { ::close(descriptorOf(socket)); }
 
@@ -117,21 +111,22 @@ int receiveTimeout(Socket socket) {
   return static_cast<int>(value.tv_sec * 1000 + (value.tv_usec + 999) / 1000);
 }
 
-bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs) {
+bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs,
+                   Stop stop) {
   const auto peer = ipv4Address(address, port);
   if (!peer) return false;
-  // The socket is the library's own, so its mode may change for a moment. A blocking connect that a
-  // signal interrupts cannot be resumed.
-  const int descriptor = descriptorOf(socket);
-  const int flags = ::fcntl(descriptor, F_GETFL);
-  if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags | O_NONBLOCK) != 0) return false;
-  const int error = connectWithin(descriptor, *peer, Deadline::ofTimeout(timeoutMs));
-  ::fcntl(descriptor, F_SETFL, flags);
+  const int error =
+      connectWithin(descriptorOf(socket), *peer, Deadline::ofTimeout(timeoutMs), stop);
   errno = error;
   return error == 0;
 }
 
-int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
+bool isQuiet(Socket socket) {
+  pollfd watched{descriptorOf(socket), POLLIN, 0};
+  return ::poll(&watched, 1, 0) == 0;
+}
+
+int sendAll(Socket socket, std::string_view bytes, int timeoutMs, Stop stop) {
   if (bytes.size() > INT_MAX) {
     errno = EMSGSIZE;
     return -1;
@@ -140,16 +135,17 @@ int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
   // One deadline for the whole, or a peer that reads a byte now and then would stretch it for ever.
   const Deadline deadline = Deadline::ofTimeout(timeoutMs);
   for (std::string_view rest = bytes; !rest.empty();) {
-    const ssize_t taken = untilDone(descriptor, POLLOUT, deadline, [&] {
-      return ::send(descriptor, rest.data(), rest.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
-    });
-    if (taken < 0) return -1;
-    rest.remove_prefix(static_cast<std::size_t>(taken));
+    const ssize_t taken = ::send(descriptor, rest.data(), rest.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+    if (taken >= 0) {
+      rest.remove_prefix(static_cast<std::size_t>(taken));
+    } else if (!wouldWait() || !awaitEvent(descriptor, POLLOUT, deadline, stop)) {
+      return -1;
+    }
   }
   return static_cast<int>(bytes.size());
 }
 
-int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs) {
+int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs, Stop stop) {
   // Into no room at all the system receives 0 bytes, which would read as the peer's end.
   if (buffer.empty()) {
     errno = EINVAL;
@@ -157,10 +153,13 @@ int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs) {
   }
   const int descriptor = descriptorOf(socket);
   const std::size_t room = std::min<std::size_t>(buffer.size(), INT_MAX);
-  const ssize_t received = untilDone(descriptor, POLLIN, Deadline::ofTimeout(timeoutMs), [&] {
-    return ::recv(descriptor, buffer.data(), room, MSG_DONTWAIT);
-  });
-  return static_cast<int>(received);
+  const Deadline deadline = Deadline::ofTimeout(timeoutMs);
+  // A controller takes its time: a look before that would be a call in vain.
+  while (awaitEvent(descriptor, POLLIN, deadline, stop)) {
+    const ssize_t received = ::recv(descriptor, buffer.data(), room, MSG_DONTWAIT);
+    if (received >= 0 || !wouldWait()) return static_cast<int>(received);
+  }
+  return -1;
 }
 
 int lastSocketError() { return errno; }

@@ -3,12 +3,14 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 
 namespace tovi::platform {
+namespace {
 
-void pauseFor(int milliseconds) {
-  if (milliseconds <= 0) return;
+void pauseWhole(int milliseconds) {
   // An absolute end: relative pauses that signals keep interrupting would add up their roundings.
   timespec end{};
   ::clock_gettime(CLOCK_MONOTONIC, &end);
@@ -20,6 +22,21 @@ void pauseFor(int milliseconds) {
   }
   while (::clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &end, nullptr) == EINTR) {
   }
+}
+
+}  // namespace
+
+void pauseFor(int milliseconds, Stop stop) {
+  for (int left = milliseconds; left > 0 && !isStopped(stop);) {
+    const int part = stop != nullptr ? std::min(left, kStopLookMs) : left;
+    pauseWhole(part);
+    left -= part;
+  }
+}
+
+long long steadyMs() {
+  using namespace std::chrono;
+  return 1 + duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 std::time_t now() { return std::time(nullptr); }

@@ -21,14 +21,14 @@ namespace {
 // this size at once, so that the wait stays in WSAPoll, where it is bounded.
 constexpr std::size_t kPieceSize = 4096;
 
-// Waits for an event; false when the deadline had passed before. Errors are reported as an event:
-// the send or recv that follows tells which.
-bool awaitEvent(SOCKET handle, short event, const Deadline& deadline) {
+// Waits for an event; false when the deadline has passed or the wait is stopped. Errors are
+// reported as an event: the send or recv that follows tells which.
+bool awaitEvent(SOCKET handle, short event, const Deadline& deadline, Stop stop) {
   for (;;) {
     WSAPOLLFD watched{handle, event, 0};
-    const int ready = ::WSAPoll(&watched, 1, deadline.remainingMs());
+    const int ready = ::WSAPoll(&watched, 1, deadline.remainingMs(stop));
     if (ready != 0) return ready > 0;
-    if (deadline.remainingMs() == 0) {
+    if (deadline.remainingMs() == 0 || isStopped(stop)) {
       ::WSASetLastError(WSAETIMEDOUT);
       return false;
     }
@@ -38,9 +38,9 @@ bool awaitEvent(SOCKET handle, short event, const Deadline& deadline) {
 // Repeats a call, which may be on a socket that its owner has made non-blocking, until it succeeds,
 // fails or the deadline has passed.
 template <typename Call>
-int untilDone(SOCKET handle, short event, const Deadline& deadline, Call call) {
+int untilDone(SOCKET handle, short event, const Deadline& deadline, Stop stop, Call call) {
   for (;;) {
-    if (!awaitEvent(handle, event, deadline)) return -1;
+    if (!awaitEvent(handle, event, deadline, stop)) return -1;
     const int result = call();
     if (result != SOCKET_ERROR) return result;
     if (::WSAGetLastError() != WSAEWOULDBLOCK) return -1;
@@ -54,11 +54,14 @@ int untilDone(SOCKET handle, short event, const Deadline& deadline, Call call) {
 }
 
 // The outcome of a connect that is under way; 0 or the error number.
-int connectOutcome(SOCKET handle, WSAEVENT event, const Deadline& deadline) {
-  const int remaining = deadline.remainingMs();
-  const DWORD limit = remaining < 0 ? WSA_INFINITE : static_cast<DWORD>(remaining);
-  const DWORD waited = ::WSAWaitForMultipleEvents(1, &event, FALSE, limit, FALSE);
-  if (waited == WSA_WAIT_TIMEOUT) return WSAETIMEDOUT;
+int connectOutcome(SOCKET handle, WSAEVENT event, const Deadline& deadline, Stop stop) {
+  DWORD waited = WSA_WAIT_TIMEOUT;
+  while (waited == WSA_WAIT_TIMEOUT) {
+    const int remaining = deadline.remainingMs(stop);
+    if (remaining == 0 || isStopped(stop)) return WSAETIMEDOUT;
+    const DWORD limit = remaining < 0 ? WSA_INFINITE : static_cast<DWORD>(remaining);
+    waited = ::WSAWaitForMultipleEvents(1, &event, FALSE, limit, FALSE);
+  }
   WSANETWORKEVENTS happened{};
   if (waited == WSA_WAIT_FAILED || ::WSAEnumNetworkEvents(handle, event, &happened) != 0) {
     return ::WSAGetLastError();
@@ -68,7 +71,7 @@ int connectOutcome(SOCKET handle, WSAEVENT event, const Deadline& deadline) {
 
 // An event and not WSAPoll, which on many versions of the system never reports that a connect has
 // failed. Selecting the event makes the socket non-blocking.
-int connectWithin(SOCKET handle, const sockaddr_in& peer, const Deadline& deadline) {
+int connectWithin(SOCKET handle, const sockaddr_in& peer, const Deadline& deadline, Stop stop) {
   const WSAEVENT event = ::WSACreateEvent();
   if (event == WSA_INVALID_EVENT) return ::WSAGetLastError();
   int error = 0;
@@ -76,7 +79,7 @@ int connectWithin(SOCKET handle, const sockaddr_in& peer, const Deadline& deadli
       ::connect(handle, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0) {
     error = ::WSAGetLastError();
   }
-  if (error == WSAEWOULDBLOCK) error = connectOutcome(handle, event, deadline);
+  if (error == WSAEWOULDBLOCK) error = connectOutcome(handle, event, deadline, stop);
   ::WSAEventSelect(handle, nullptr, 0);
   setBlocking(handle, true);
   ::WSACloseEvent(event);
@@ -145,15 +148,21 @@ int receiveTimeout(Socket socket) {
   return static_cast<int>(std::min<DWORD>(value, INT_MAX));
 }
 
-bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs) {
+bool connectSocket(Socket socket, const char* address, std::uint16_t port, int timeoutMs,
+                   Stop stop) {
   const auto peer = ipv4Address(address, port);
   if (!peer) return false;
-  const int error = connectWithin(socket, *peer, Deadline::ofTimeout(timeoutMs));
+  const int error = connectWithin(socket, *peer, Deadline::ofTimeout(timeoutMs), stop);
   ::WSASetLastError(error);
   return error == 0;
 }
 
-int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
+bool isQuiet(Socket socket) {
+  WSAPOLLFD watched{socket, POLLRDNORM, 0};
+  return ::WSAPoll(&watched, 1, 0) == 0;
+}
+
+int sendAll(Socket socket, std::string_view bytes, int timeoutMs, Stop stop) {
   if (bytes.size() > INT_MAX) {
     ::WSASetLastError(WSAEMSGSIZE);
     return -1;
@@ -162,7 +171,7 @@ int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
   const Deadline deadline = Deadline::ofTimeout(timeoutMs);
   for (std::string_view rest = bytes; !rest.empty();) {
     const int size = static_cast<int>(std::min(rest.size(), kPieceSize));
-    const int taken = untilDone(socket, POLLWRNORM, deadline,
+    const int taken = untilDone(socket, POLLWRNORM, deadline, stop,
                                 [&] { return ::send(socket, rest.data(), size, 0); });
     if (taken < 0) return -1;
     rest.remove_prefix(static_cast<std::size_t>(taken));
@@ -170,14 +179,14 @@ int sendAll(Socket socket, std::string_view bytes, int timeoutMs) {
   return static_cast<int>(bytes.size());
 }
 
-int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs) {
+int receiveSome(Socket socket, std::span<char> buffer, int timeoutMs, Stop stop) {
   // Into no room at all the system receives 0 bytes, which would read as the peer's end.
   if (buffer.empty()) {
     ::WSASetLastError(WSAEINVAL);
     return -1;
   }
   const int room = static_cast<int>(std::min<std::size_t>(buffer.size(), INT_MAX));
-  return untilDone(socket, POLLRDNORM, Deadline::ofTimeout(timeoutMs),
+  return untilDone(socket, POLLRDNORM, Deadline::ofTimeout(timeoutMs), stop,
                    [&] { return ::recv(socket, buffer.data(), room, 0); });
 }
 

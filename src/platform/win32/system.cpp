@@ -3,17 +3,24 @@
 
 #include <windows.h>
 
+#include <chrono>
+
 #include "platform/deadline.h"
 #include "platform/win32/wide.h"
 
 namespace tovi::platform {
 
-void pauseFor(int milliseconds) {
+void pauseFor(int milliseconds, Stop stop) {
   // Sleep may return up to one clock tick early.
   const Deadline deadline = Deadline::after(milliseconds);
-  for (int left = deadline.remainingMs(); left > 0; left = deadline.remainingMs()) {
+  for (int left = 0; !isStopped(stop) && (left = deadline.remainingMs(stop)) > 0;) {
     ::Sleep(static_cast<DWORD>(left));
   }
+}
+
+long long steadyMs() {
+  using namespace std::chrono;
+  return 1 + duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 std::time_t now() { return std::time(nullptr); }
