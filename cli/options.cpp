@@ -63,8 +63,8 @@ void addSessionOptions(CLI::App& app, Options& options) {
       options.key, tools::parseKey, tools::kKeyForm)
       ->type_name("CIPHER:PASSWORD");
   addNumber(app, "--timeout",
-            "Limit of each send and each read, 0 to 3600000 ms; 0 waits for ever,\n"
-            "5000 unless given; a silent controller is read three times",
+            "Limit of connecting, a request and its reply together, 0 to 3600000 ms;\n"
+            "0 waits for ever, 5000 unless given; each step of a transfer has it anew",
             options.timeoutMs, 0, 3'600'000)
       ->type_name("MS");
 }
@@ -125,6 +125,7 @@ void setUpLog(const Options& options) {
 
 void setUp(ToviTraffic& traffic, const Options& options) {
   traffic.setTimeout(options.timeoutMs);
+  traffic.setWaiting(ToviWaiting::UntilTimeout);
   const char* password = options.key.text.c_str();
   switch (options.key.cipher) {
     case tools::Cipher::None:

@@ -6,6 +6,7 @@
 
 #include <tovisdk/export.h>
 
+#include <atomic>
 #include <cstdint>
 #include <ctime>
 #include <functional>
@@ -17,6 +18,7 @@
 #include <tovisdk/protocal_parser.h>
 #include <tovisdk/records.h>
 #include <tovisdk/socket_result.h>
+#include <tovisdk/waiting.h>
 
 namespace tovi::session {
 class Session;
@@ -24,14 +26,15 @@ class Session;
 
 /// One display controller.
 ///
-/// In client mode each operation opens a TCP connection of its own and closes it again. In server
-/// mode the object uses a socket that the host has accepted from a controller, and never closes it.
+/// In client mode each operation opens a TCP connection of its own and closes it again, unless
+/// setKeepConnection says otherwise. In server mode the object uses a socket that the host has
+/// accepted from a controller, and never closes it.
 ///
-/// Every operation blocks until it is done. The reply is awaited for at most three reads, each
-/// bounded by the time-out, with pauses of 500 ms between them; a silent controller therefore costs
-/// up to three time-outs and one second. Nothing is thrown and no signal is raised: where memory is
-/// out, the connection is closed, an operation gives the value with which it fails (-11 for
-/// settings) and lastOutcome is OutOfMemory.
+/// Every operation blocks until it is done, or cancel ends it. The reply is awaited for at most
+/// three reads, each bounded by the time-out, with pauses of 500 ms between them; a silent
+/// controller therefore costs up to three time-outs and one second. With setWaiting it costs one.
+/// Nothing is thrown and no signal is raised: where memory is out, the connection is closed, an
+/// operation gives the value with which it fails (-11 for settings) and lastOutcome is OutOfMemory.
 ///
 /// Any length of text goes out plain. With a key set, the payload of a request has at most 65527
 /// bytes with DES and 65519 with AES and SM4, the code of a 16-bit command included; what does not
@@ -43,7 +46,7 @@ class Session;
 /// - -14 (SOCKET_ERROR_CODE): no connection could be obtained
 /// - -15 (ARGUMENT_ERROR): an argument was refused; nothing was sent
 ///
-/// Use one object from one thread at a time; distinct objects are independent.
+/// Use one object from one thread at a time, but for cancel; distinct objects are independent.
 class TOVISDK_API ToviTraffic {
  public:
   static constexpr int TEMP_SIZE = 100;          ///< receive buffer of an ordinary query, in bytes
@@ -80,6 +83,22 @@ class TOVISDK_API ToviTraffic {
   /// 20000 from the start. 0 waits without limit; a negative value counts as 0. In server mode a
   /// shorter receive time-out that the host has set on its socket holds instead.
   void setTimeout(int ms);
+
+  /// How replies are waited for in operations started afterwards; ThreeReads from the start.
+  void setWaiting(ToviWaiting waiting);
+
+  /// Client mode: whether the connection of an operation that is done stays open for the next one;
+  /// it does not from the start. Before a request goes out, a kept connection that the controller
+  /// has closed, or on which something came that nobody asked for, is replaced by a new one. One
+  /// that breaks afterwards ends the operation as NoReply: no request is sent twice. An operation
+  /// that fails closes its connection, and so does `false` here the one that is kept.
+  void setKeepConnection(bool keep);
+
+  /// Ends the operation that is running, as Stopped: within 100 ms, with the value of an operation
+  /// whose reply did not come, -14 while it still connects, and -16 from sendFile. Where none is
+  /// running nothing happens, now or later. The only method that may be called from another thread
+  /// while one is running, or from a signal handler.
+  void cancel();
 
   /// Why the last operation ended as it did.
   ToviOutcome lastOutcome() const;
@@ -714,6 +733,7 @@ class TOVISDK_API ToviTraffic {
 
   std::uint64_t getSocket();
   void closeSocket(std::uint64_t socket);
+  void closeKept();
 
   char* makeSendPacket(short what, char* data, int len, int* outLen);
   char* recv(std::uint64_t socket, short what, int* outLen);
@@ -745,6 +765,11 @@ class TOVISDK_API ToviTraffic {
   char* mAesKey;
   char* mSm4Key;
   ToviOutcome mOutcome;
+  ToviWaiting mWaiting;
+  bool mKeepsConnection;
+  std::atomic<bool> mCancelled;
+  std::uint64_t mKeptSocket;  // 0: none
+  long long mExchangeEnds;    // by the steady clock; 0: no exchange is under way
 };
 
 #endif

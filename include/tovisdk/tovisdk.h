@@ -10,6 +10,7 @@
 #include <tovisdk/outcome.h>
 #include <tovisdk/records.h>
 #include <tovisdk/socket_result.h>
+#include <tovisdk/waiting.h>
 
 #include <tovisdk/codec.h>
 #include <tovisdk/files.h>

@@ -184,6 +184,7 @@ std::string ToviTraffic::getDetectErrorPointInfo() {
                       wire::wideCode(kParts.reply)};
     std::optional<std::string> joined = askParts(session, connection, codes, {}, kParts.buffer);
     if (!joined) return std::string();
+    if (session.outcome() == ToviOutcome::Done) connection.keep();
     tellRelease();  // the parts were one reply to hosts
     return *std::move(joined);
   });

@@ -6,6 +6,7 @@
 namespace tovi::session {
 
 Call::Call(ToviTraffic& traffic, const char* method) : mSession(traffic), mMethod(method) {
+  mSession.begin();
   log::info("%s start", mMethod);
 }
 

@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "foundation/log.h"
 #include "platform/sockets.h"
+#include "session/session.h"
 #include "wire/packet_receiver.h"
 
 namespace platform = tovi::platform;
@@ -32,14 +34,14 @@ char* newAddress(const char* ip) {
 }
 
 // A connected socket, or 0.
-std::uint64_t connectTo(const char* ip, unsigned short port, int timeout) {
+std::uint64_t connectTo(const char* ip, unsigned short port, int timeout, platform::Stop stop) {
   const platform::Socket socket = platform::openSocket();
   if (socket == platform::kInvalidSocket) {
     tovi::log::error("ToviTraffic::getSocket create socket error");
     return 0;
   }
   platform::setTimeouts(socket, timeout);
-  if (!platform::connectSocket(socket, ip, port, timeout)) {
+  if (!platform::connectSocket(socket, ip, port, timeout, stop)) {
     tovi::log::error("ToviTraffic::getSocket connect socket error");
     platform::closeSocket(socket);
     return 0;
@@ -58,7 +60,12 @@ ToviTraffic::ToviTraffic(const char* ip, unsigned short port)
       mDesKey(nullptr),
       mAesKey(nullptr),
       mSm4Key(nullptr),
-      mOutcome(ToviOutcome::Done) {
+      mOutcome(ToviOutcome::Done),
+      mWaiting(ToviWaiting::ThreeReads),
+      mKeepsConnection(false),
+      mCancelled(false),
+      mKeptSocket(0),
+      mExchangeEnds(0) {
   tovi::log::info("ToviTraffic::ToviTraffic init client mode start");
   mIp = newAddress(ip);
   tovi::log::info("ToviTraffic::ToviTraffic init client mode end");
@@ -73,7 +80,12 @@ ToviTraffic::ToviTraffic(std::uint64_t socket)
       mDesKey(nullptr),
       mAesKey(nullptr),
       mSm4Key(nullptr),
-      mOutcome(ToviOutcome::Done) {
+      mOutcome(ToviOutcome::Done),
+      mWaiting(ToviWaiting::ThreeReads),
+      mKeepsConnection(false),
+      mCancelled(false),
+      mKeptSocket(0),
+      mExchangeEnds(0) {
   tovi::log::info("ToviTraffic::ToviTraffic init server mode start");
   // The closing line repeats the opening one; readers of these logs know it so.
   tovi::log::info("ToviTraffic::ToviTraffic init server mode start");
@@ -81,6 +93,7 @@ ToviTraffic::ToviTraffic(std::uint64_t socket)
 
 ToviTraffic::~ToviTraffic() {
   tovi::log::info("ToviTraffic::~ToviTraffic start");
+  closeKept();
   if (mProtocalParser != nullptr) {
     tovi::log::info("ToviTraffic::~ToviTraffic release mProtocalParser start");
     delete mProtocalParser;
@@ -96,7 +109,16 @@ void ToviTraffic::setTimeout(int ms) {
   mTimeout = std::max(ms, 0);
 }
 
-void ToviTraffic::setSocket(std::uint64_t socket) { mSocket = socket; }
+void ToviTraffic::setSocket(std::uint64_t socket) {
+  closeKept();
+  mSocket = socket;
+}
+
+void ToviTraffic::setKeepConnection(bool keep) {
+  tovi::log::info("setKeepConnection start");
+  mKeepsConnection = keep;
+  if (!keep) closeKept();
+}
 
 ToviOutcome ToviTraffic::lastOutcome() const { return mOutcome; }
 
@@ -114,6 +136,15 @@ std::uint64_t ToviTraffic::getSocket() {
     tovi::log::info("ToviTraffic::getSocket return mSocket");
     return mSocket;
   }
+  mExchangeEnds = 0;
+  if (mKeptSocket != 0) {
+    if (platform::isQuiet(mKeptSocket)) {
+      tovi::log::info("ToviTraffic::getSocket return kept toviSocket");
+      return std::exchange(mKeptSocket, 0);
+    }
+    tovi::log::info("ToviTraffic::getSocket kept toviSocket is of no use any more");
+    closeKept();
+  }
   switch (platform::startUpSockets()) {
     case platform::StartUp::Failed:
       tovi::log::error("ToviTraffic::getSocket WSAStartup error");
@@ -124,7 +155,8 @@ std::uint64_t ToviTraffic::getSocket() {
     case platform::StartUp::Ready:
       break;
   }
-  const std::uint64_t socket = connectTo(mIp, mPort, mTimeout);
+  tovi::session::Session session(*this);
+  const std::uint64_t socket = connectTo(mIp, mPort, *session.waitLeft(mTimeout), session.stop());
   if (socket == 0) platform::cleanUpSockets();
   return socket;
 }
@@ -135,3 +167,15 @@ void ToviTraffic::closeSocket(std::uint64_t socket) {
   platform::closeSocket(socket);
   platform::cleanUpSockets();
 }
+
+void ToviTraffic::closeKept() { closeSocket(std::exchange(mKeptSocket, 0)); }
+
+namespace tovi::session {
+
+void Session::keepSocket(std::uint64_t socket) {
+  if (mTraffic.mSocket != 0 || !mTraffic.mKeepsConnection) return closeSocket(socket);
+  log::info("ToviTraffic::closeSocket keep toviSocket");
+  mTraffic.mKeptSocket = socket;
+}
+
+}  // namespace tovi::session

@@ -13,7 +13,7 @@ static_assert(ToviTraffic::BIG_STRING_SIZE == wire::kTextReply);
 static_assert(ToviTraffic::SCREENSHOT_SIZE == wire::kPictureReply);
 
 int Session::set(short what, short rspWhat, std::string_view payload) {
-  const Connection connection(*this);
+  Connection connection(*this);
   if (!connection) {
     log::error("ToviTraffic::normalSet socket error");
     return end(ToviOutcome::NoConnection, ToviTraffic::SOCKET_ERROR_CODE);
@@ -21,6 +21,7 @@ int Session::set(short what, short rspWhat, std::string_view payload) {
   const bool sent = send(connection.socket(), what, payload) >= 0;
   if (rspWhat == wire::wideCode(wire::kNoReply)) {
     log::error("ToviTraffic::normalSet don't need wiat rsp");
+    if (sent) connection.keep();
     return end(sent ? ToviOutcome::Done : ToviOutcome::SendFailed, ToviTraffic::SUCCESS);
   }
   const std::optional<std::string> package =
@@ -30,6 +31,7 @@ int Session::set(short what, short rspWhat, std::string_view payload) {
     return end(sent ? ToviOutcome::NoReply : ToviOutcome::SendFailed,
                ToviTraffic::SEND_NOT_RECV_ERROR);
   }
+  connection.keep();
   if (package->size() > 1 && (*package)[1] != ToviTraffic::SUCCESS) {
     log::error("ToviTraffic::normalSet recvBuf result = %c, result = SEND_RECV_ERROR",
                (*package)[1]);
@@ -59,13 +61,14 @@ std::optional<std::string> Session::ask(short what, short rspWhat, std::string_v
                                         int bufferSize) {
   std::optional<std::string> package;
   {
-    const Connection connection(*this);
+    Connection connection(*this);
     if (!connection) {
       log::error("ToviTraffic::getData socket error");
       end(ToviOutcome::NoConnection);
       return std::nullopt;
     }
     package = exchange(connection.socket(), what, rspWhat, payload, bufferSize);
+    if (package) connection.keep();
   }
   return toldOf(std::move(package));
 }

@@ -69,37 +69,67 @@ std::optional<std::string> Session::receive(std::uint64_t socket, short what, in
   log::info("ToviTraffic::recv start");
   if (mTraffic.mProtocalParser == nullptr) mTraffic.mProtocalParser = newParser();
   std::string buffer(static_cast<std::size_t>(bufferSize), '\0');
-  std::optional<std::string> package;
-  for (int failures = 0; !(package = receiveOnce(socket, what, buffer));) {
+  std::optional<std::string> package = waitsUntilTimeout()
+                                           ? receiveUntilTimeout(socket, what, buffer)
+                                           : receiveInThreeReads(socket, what, buffer);
+  mTraffic.mExchangeEnds = 0;
+  if (package) log::info("ToviTraffic::recv recv buf end");
+  return package;
+}
+
+// The kept bytes are searched first, unless they were already; that counts as a read.
+std::optional<std::string> Session::receiveInThreeReads(std::uint64_t socket, short what,
+                                                        std::string& buffer) {
+  for (int failures = 0;;) {
+    std::optional<std::string> package;
+    if (hasUnread()) {
+      package = searchKept(what);
+    } else {
+      readOnce(socket, what, buffer, package);
+    }
+    if (package) return package;
     if (++failures == ToviTraffic::MAX_FAIL_COUNT) {
       log::error("ToviTraffic::recv recv failed count > MAX_FAIL_COUNT");
       return std::nullopt;
     }
-    platform::pauseFor(kPauseMs);
+    platform::pauseFor(kPauseMs, stop());
+    if (platform::isStopped(stop())) return std::nullopt;
   }
-  log::info("ToviTraffic::recv recv buf end");
+}
+
+// Nothing comes any more once the peer has closed or a read has failed, which it does when the time
+// is over.
+std::optional<std::string> Session::receiveUntilTimeout(std::uint64_t socket, short what,
+                                                        std::string& buffer) {
+  std::optional<std::string> package = hasUnread() ? searchKept(what) : std::nullopt;
+  while (!package && readOnce(socket, what, buffer, package) > 0) {
+  }
+  if (!package) log::error("ToviTraffic::recv no reply");
   return package;
 }
 
-// One attempt: the kept bytes first, unless they were searched already.
-std::optional<std::string> Session::receiveOnce(std::uint64_t socket, short what,
-                                                std::string& buffer) {
-  wire::Receiver receiver(*mTraffic.mProtocalParser);
-  if (receiver.hasUnread()) {
-    log::info("ToviTraffic::recv start recvProc");
-    return receiver.receive({}, what);
-  }
+bool Session::hasUnread() const { return wire::Receiver(*mTraffic.mProtocalParser).hasUnread(); }
+
+std::optional<std::string> Session::searchKept(short what) {
+  log::info("ToviTraffic::recv start recvProc");
+  return wire::Receiver(*mTraffic.mProtocalParser).receive({}, what);
+}
+
+// The number of bytes read, 0 at the peer's end, or -1, and the package that they completed.
+int Session::readOnce(std::uint64_t socket, short what, std::string& buffer,
+                      std::optional<std::string>& package) {
   log::info("ToviTraffic::recv recv start");
-  std::optional<std::string> package;
-  const int received = platform::receiveSome(socket, buffer, receiveTimeout(socket));
+  const std::optional<int> left = waitLeft(receiveTimeout(socket));
+  const int received = left ? platform::receiveSome(socket, buffer, *left, stop()) : -1;
   if (received == -1) {
     log::info("ToviTraffic::recv recv erron = %d", platform::lastSocketError());
   } else {
     log::info("ToviTraffic::recv start recvProc");
-    package = receiver.receive(viewOf(buffer.data(), received), what);
+    package =
+        wire::Receiver(*mTraffic.mProtocalParser).receive(viewOf(buffer.data(), received), what);
   }
   log::info("ToviTraffic::recv recv start, recv result = %d", received);
-  return package;
+  return received;
 }
 
 }  // namespace tovi::session

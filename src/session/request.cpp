@@ -6,6 +6,7 @@
 #include "session/session.h"
 #include "wire/frame.h"
 #include "wire/packet_builder.h"
+#include "wire/packet_receiver.h"
 
 namespace tovi::session {
 
@@ -46,7 +47,13 @@ bool Session::isEnciphered() const {
 }
 
 int Session::send(std::uint64_t socket, short what, std::string_view payload) {
-  return platform::sendAll(socket, frameOf(what, payload), mTraffic.mTimeout);
+  const std::string frame = frameOf(what, payload);
+  if (!waitsUntilTimeout()) return platform::sendAll(socket, frame, mTraffic.mTimeout, stop());
+  if (mTraffic.mSocket == 0 && mTraffic.mProtocalParser != nullptr) {
+    wire::Receiver(*mTraffic.mProtocalParser).forget();
+  }
+  const std::optional<int> left = waitLeft(receiveTimeout(socket));
+  return left ? platform::sendAll(socket, frame, *left, stop()) : -1;
 }
 
 }  // namespace tovi::session

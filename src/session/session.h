@@ -11,6 +11,7 @@
 
 #include <tovisdk/tovi_traffic.h>
 
+#include "platform/stop.h"
 #include "wire/frame.h"
 
 namespace tovi::session {
@@ -25,6 +26,9 @@ class Session {
   // closeSocket leaves open. Connection pairs the two.
   std::uint64_t getSocket() { return mTraffic.getSocket(); }
   void closeSocket(std::uint64_t socket) { mTraffic.closeSocket(socket); }
+
+  // The same after an operation that is done: where connections are kept, it stays open.
+  void keepSocket(std::uint64_t socket);
 
   // One request: the number of bytes sent, or -1.
   int send(std::uint64_t socket, short what, std::string_view payload);
@@ -56,8 +60,16 @@ class Session {
   // What setAesKey and setSM4Key have in common.
   void setAesOrSm4Key(const char* password, char*& slot);
 
+  // A call begins: whatever the one before it left is over.
+  void begin();
+
+  // The time-out of the next wait, where each wait alone would have `timeoutMs`; nothing once the
+  // time of the exchange is over. The first wait of an exchange begins it, receive ends it.
+  std::optional<int> waitLeft(int timeoutMs);
+  platform::Stop stop() const { return &mTraffic.mCancelled; }
+
   // How an operation ends: notes why, and gives its result.
-  void end(ToviOutcome outcome) { mTraffic.mOutcome = outcome; }
+  void end(ToviOutcome outcome);
   template <class Result>
   Result end(ToviOutcome outcome, Result result) {
     end(outcome);
@@ -75,7 +87,15 @@ class Session {
   Key keyFor(short what) const;
   std::optional<std::string> exchange(std::uint64_t socket, short what, short rspWhat,
                                       std::string_view payload, int bufferSize);
-  std::optional<std::string> receiveOnce(std::uint64_t socket, short what, std::string& buffer);
+  std::optional<std::string> receiveInThreeReads(std::uint64_t socket, short what,
+                                                 std::string& buffer);
+  std::optional<std::string> receiveUntilTimeout(std::uint64_t socket, short what,
+                                                 std::string& buffer);
+  std::optional<std::string> searchKept(short what);
+  int readOnce(std::uint64_t socket, short what, std::string& buffer,
+               std::optional<std::string>& package);
+  bool hasUnread() const;
+  bool waitsUntilTimeout() const { return mTraffic.mWaiting == ToviWaiting::UntilTimeout; }
   std::optional<std::string> toldOf(std::optional<std::string> package) const;
   int receiveTimeout(std::uint64_t socket) const;
   ProtocalParser* newParser() const;
@@ -83,7 +103,8 @@ class Session {
   ToviTraffic& mTraffic;
 };
 
-// A connection that is closed at the end of its scope, unless it is released before.
+// A connection that is closed at the end of its scope, unless it is released before. One whose
+// exchange came to its end may serve the next operation, too.
 class Connection {
  public:
   explicit Connection(Session session) : Connection(session, session.getSocket()) {}
@@ -95,12 +116,14 @@ class Connection {
   explicit operator bool() const { return mSocket != 0; }
   std::uint64_t socket() const { return mSocket; }
 
-  void close() { mSession.closeSocket(release()); }
+  void keep() { mKeep = true; }
+  void close() { mKeep ? mSession.keepSocket(release()) : mSession.closeSocket(release()); }
   std::uint64_t release() { return std::exchange(mSocket, 0); }
 
  private:
   Session mSession;
   std::uint64_t mSocket;
+  bool mKeep = false;
 };
 
 // The line on standard output that hosts know from every reply that is released.

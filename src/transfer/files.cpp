@@ -116,15 +116,16 @@ int ToviTraffic::sendFile(const char* path, const char* name, const Progress& pr
   if (path == nullptr || name == nullptr) return transfer.refuse("path or name is null");
   Session session = transfer.session();
   if (!isName(session, name)) return transfer.refuse("the name is too long");
-  return transfer.guarded(kNoConnection, [&] {
+  const int result = transfer.guarded(kNoConnection, [&] {
     if (!transfer.connect()) return kNoConnection;
-    int result = sendName(session, transfer.socket(), name);
-    if (result != SUCCESS) return result;
+    const int named = sendName(session, transfer.socket(), name);
+    if (named != SUCCESS) return named;
     Sent sent;
-    result = sendChunks(session, transfer.socket(), path,
-                        session.isEnciphered() ? kCipheredChunk : kPlainChunk, sent, progress);
-    return result == SUCCESS ? awaitEnd(session, transfer.socket()) : result;
+    const int chunk = session.isEnciphered() ? kCipheredChunk : kPlainChunk;
+    const int content = sendChunks(session, transfer.socket(), path, chunk, sent, progress);
+    return content == SUCCESS ? awaitEnd(session, transfer.socket()) : content;
   });
+  return transfer.outcome() == ToviOutcome::Stopped ? STOPPED_BY_HOST : result;
 }
 
 // Kept: the interface names it.

@@ -5,6 +5,10 @@
 
 namespace tovi::transfer {
 
+Transfer::~Transfer() {
+  if (mConnection && outcome() == ToviOutcome::Done) mConnection->keep();
+}
+
 bool Transfer::connect() {
   mConnection.emplace(session());
   if (*mConnection) return true;

@@ -29,10 +29,14 @@ int sendStep(session::Session session, std::uint64_t socket, const Step& step,
 // Awaits the answer alone; `sent` tells whether the message before it went out.
 int awaitStep(session::Session session, std::uint64_t socket, const Step& step, bool sent = true);
 
-// A call of several steps. The connection that it took is closed when it ends, however it ends.
+// A call of several steps. The connection that it took is closed when it ends, however it ends,
+// unless all is done and connections are kept.
 class Transfer : public session::Call {
  public:
   using Call::Call;
+  ~Transfer();
+  Transfer(const Transfer&) = delete;
+  Transfer& operator=(const Transfer&) = delete;
 
   bool connect();
   std::uint64_t socket() const { return mConnection->socket(); }
