@@ -29,6 +29,7 @@ struct FakePlatform {
   bool sendFails = false;
   int socketError = 11;           // what lastSocketError gives
   int hostReceiveTimeout = 0;     // what the socket's options say
+  bool quiet = true;              // whether an open connection has nothing to read
   std::deque<Incoming> incoming;  // when it runs out, reads time out
   std::string executableFolder = "/host/bin/";
   bool foldersCanBeMade = true;
