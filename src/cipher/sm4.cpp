@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <limits>
 #include <memory>
+#include <new>
 
 namespace tovi::cipher {
 namespace {
@@ -36,6 +37,12 @@ unsigned char* bytes(std::span<char> buffer) {
   return reinterpret_cast<unsigned char*>(buffer.data());
 }
 
+// What we ask of libcrypto fails for want of memory alone. A message must not go out for the one
+// that was meant.
+void mustHaveMemory(bool has) {
+  if (!has) throw std::bad_alloc();
+}
+
 }  // namespace
 
 Sm4::Sm4(std::string_view key16) {
@@ -47,13 +54,14 @@ int Sm4::encrypt(std::string_view plain, std::span<char> out) const {
   if (out.size() < plain.size() - plain.size() % kBlockSize + kBlockSize) return -1;
   const ErrorScope errors;
   const std::unique_ptr<EVP_CIPHER_CTX, FreeContext> context(EVP_CIPHER_CTX_new());
-  if (!context) return 0;
   int updated = 0;
   int finished = 0;
-  EVP_EncryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data());
-  EVP_EncryptUpdate(context.get(), bytes(out), &updated, bytes(plain),
-                    static_cast<int>(plain.size()));
-  EVP_EncryptFinal_ex(context.get(), bytes(out) + updated, &finished);
+  mustHaveMemory(context != nullptr);
+  mustHaveMemory(
+      EVP_EncryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data()) == 1);
+  mustHaveMemory(EVP_EncryptUpdate(context.get(), bytes(out), &updated, bytes(plain),
+                                   static_cast<int>(plain.size())) == 1);
+  mustHaveMemory(EVP_EncryptFinal_ex(context.get(), bytes(out) + updated, &finished) == 1);
   return updated + finished;
 }
 
@@ -61,10 +69,11 @@ int Sm4::decrypt(std::string_view ciphered, std::span<char> out) const {
   if (ciphered.size() > kMaxSize || out.size() < ciphered.size() + kBlockSize) return -1;
   const ErrorScope errors;
   const std::unique_ptr<EVP_CIPHER_CTX, FreeContext> context(EVP_CIPHER_CTX_new());
-  if (!context) return 0;
   int updated = 0;
   int finished = 0;
-  EVP_DecryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data());
+  mustHaveMemory(context != nullptr);
+  mustHaveMemory(
+      EVP_DecryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data()) == 1);
   EVP_DecryptUpdate(context.get(), bytes(out), &updated, bytes(ciphered),
                     static_cast<int>(ciphered.size()));
   EVP_DecryptFinal_ex(context.get(), bytes(out) + updated, &finished);
