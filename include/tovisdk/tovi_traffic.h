@@ -756,7 +756,8 @@ class TOVISDK_API ToviTraffic {
   int recvFileOverRsp(std::uint64_t socket);
   int sendPlayId(std::uint64_t socket, int number);
 
-  char* mIp;
+  char mAddress[20];  // a dotted IPv4 text and its closing zero, with room to spare
+  char* mIp;          // that, or null in server mode
   unsigned short mPort;
   int mTimeout;
   std::uint64_t mSocket;

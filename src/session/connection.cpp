@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <new>
+#include <span>
 #include <utility>
 
 #include "foundation/log.h"
@@ -16,21 +16,15 @@ namespace platform = tovi::platform;
 namespace {
 
 constexpr int kDefaultTimeout = 20000;
-// A dotted IPv4 text and its closing zero, with room to spare.
-constexpr std::size_t kAddressSize = 20;
 
-// An address that does not fit is kept as the empty text, and one that there is no memory for as
-// none: no connection attempt accepts either.
-char* newAddress(const char* ip) {
-  char* address = new (std::nothrow) char[kAddressSize]();
-  if (address == nullptr) return nullptr;
-  const std::size_t length = ip == nullptr ? kAddressSize : ::strnlen(ip, kAddressSize);
-  if (length == kAddressSize) {
+// One that does not fit is kept as the empty text, which no connection attempt accepts.
+void keepAddress(const char* ip, std::span<char> address) {
+  const std::size_t length = ip == nullptr ? address.size() : ::strnlen(ip, address.size());
+  if (length == address.size()) {
     tovi::log::error("ToviTraffic::ToviTraffic address refused");
   } else {
-    std::memcpy(address, ip, length);
+    std::memcpy(address.data(), ip, length);
   }
-  return address;
 }
 
 // A connected socket, or 0.
@@ -53,7 +47,9 @@ std::uint64_t connectTo(const char* ip, unsigned short port, int timeout, platfo
 }  // namespace
 
 ToviTraffic::ToviTraffic(const char* ip, unsigned short port)
-    : mPort(port),
+    : mAddress{},
+      mIp(mAddress),
+      mPort(port),
       mTimeout(kDefaultTimeout),
       mSocket(0),
       mProtocalParser(nullptr),
@@ -67,12 +63,13 @@ ToviTraffic::ToviTraffic(const char* ip, unsigned short port)
       mKeptSocket(0),
       mExchangeEnds(0) {
   tovi::log::info("ToviTraffic::ToviTraffic init client mode start");
-  mIp = newAddress(ip);
+  keepAddress(ip, mAddress);
   tovi::log::info("ToviTraffic::ToviTraffic init client mode end");
 }
 
 ToviTraffic::ToviTraffic(std::uint64_t socket)
-    : mIp(nullptr),
+    : mAddress{},
+      mIp(nullptr),
       mPort(0),
       mTimeout(kDefaultTimeout),
       mSocket(socket),
@@ -100,7 +97,7 @@ ToviTraffic::~ToviTraffic() {
     mProtocalParser = nullptr;
     tovi::log::info("ToviTraffic::~ToviTraffic release mProtocalParser end");
   }
-  for (char* text : {mIp, mDesKey, mAesKey, mSm4Key}) delete[] text;
+  for (char* text : {mDesKey, mAesKey, mSm4Key}) delete[] text;
   tovi::log::info("ToviTraffic::~ToviTraffic end");
 }
 
