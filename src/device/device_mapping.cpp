@@ -11,7 +11,7 @@ namespace tovi::device {
 namespace {
 
 int intMember(const CJsonObject& object, std::string_view key) {
-  return numberIn(object.valueText(key)).value_or(0);
+  return object.number(key).value_or(0);
 }
 
 DeviceMapping parseMapping(CJsonObject& entry) {

@@ -141,10 +141,15 @@ bool ToviTraffic::setSyncPlay(bool on) {
   return Operation(*this, "setSyncPlay").set(on) == SUCCESS;
 }
 
-bool ToviTraffic::getSyncPlay() { return Operation(*this, "getSyncPlay").set() == SUCCESS; }
+bool ToviTraffic::getSyncPlay() {
+  Operation operation(*this, "getSyncPlay");
+  const bool on = operation.set() == SUCCESS;
+  if (operation.outcome() == ToviOutcome::Rejected) operation.end(ToviOutcome::Done);  // a "no"
+  return on;
+}
 
 int ToviTraffic::setPreStoredScreenEnabled(bool on) {
-  return Operation(*this, "setPreStoredScreenEnabled").askByte(3, kSet, on);
+  return Operation(*this, "setPreStoredScreenEnabled").confirmAt(3, kSet, on);
 }
 
 PreStoredScreenEnabled ToviTraffic::getPreStoredScreenEnabled() {

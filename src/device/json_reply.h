@@ -12,10 +12,6 @@
 
 namespace tovi::device {
 
-// The whole number that a text begins with, as atoi reads it: 0 when there is none. Nothing when no
-// int holds it.
-std::optional<int> numberIn(std::string_view text);
-
 // The members of a reply's JSON, each as a record has it.
 class JsonReply {
  public:
@@ -27,9 +23,9 @@ class JsonReply {
 
   // 0 when it is missing. A number that no int holds is no usable value, and 0 as well.
   int number(const char* key) {
-    const std::optional<int> number = numberIn(text(key));
-    mUsable = mUsable && number;
-    return number.value_or(0);
+    const std::optional<int> value = mObject.number(key);
+    mUsable = mUsable && value;
+    return value.value_or(0);
   }
 
   // Whether everything so far could be read.

@@ -40,7 +40,7 @@ int ToviTraffic::solidify(unsigned char value) {
   return Operation(*this, "solidify").confirm(value);
 }
 
-int ToviTraffic::backups() { return Operation(*this, "backups").askByte(3, kSet); }
+int ToviTraffic::backups() { return Operation(*this, "backups").confirmAt(3, kSet); }
 
 BackUpsInfo* ToviTraffic::getBackupsTimes() {
   Operation operation(*this, "getBackupsTimes");

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "json/json_object.h"
 
+#include <climits>
 #include <new>
 #include <utility>
 
+#include "foundation/text.h"
 #include "json/json_parser.h"
 #include "json/json_printer.h"
 
@@ -142,6 +144,18 @@ std::string CJsonObject::valueText(std::string_view key) const {
     default:
       return {};
   }
+}
+
+std::optional<int> CJsonObject::number(std::string_view key) const {
+  const Node* node = data();
+  const Node* value = node ? tovi::json::findMember(*node, key) : nullptr;
+  if (value != nullptr && value->type == NodeType::Double) {
+    if (!(value->number > INT_MIN - 1.0 && value->number < INT_MAX + 1.0)) return std::nullopt;
+    return static_cast<int>(value->number);
+  }
+  const long long number = tovi::leadingNumber(valueText(key));
+  if (number < INT_MIN || number > INT_MAX) return std::nullopt;
+  return static_cast<int>(number);
 }
 
 std::string CJsonObject::toText() const {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -50,6 +51,10 @@ class CJsonObject {
   // The member's value as text: a string as it is, numbers in digits, "true" or "false". Empty when
   // missing, null, an array or an object.
   std::string valueText(std::string_view key) const;
+
+  // The member's value as a number: the whole part of a number, of another value what atoi reads in
+  // its text, 0 when that has none. Nothing when no int holds it.
+  std::optional<int> number(std::string_view key) const;
 
   // Compact JSON; empty when there is no data.
   std::string toText() const;

@@ -34,7 +34,10 @@ int Operation::sendConfirmed(std::string_view payload) {
 }
 
 int Operation::askFlag() {
-  return ask(atLeast(0), -1, [](const Reply& reply) { return reply.isOne(2) ? 1 : 0; });
+  return ask(atLeast(0), -1, [this](const Reply& reply) {
+    if (reply.size() < 3) return end(ToviOutcome::BadReply, 0);
+    return reply.isOne(2) ? 1 : 0;
+  });
 }
 
 Reply Operation::sendQuery(Length usable, std::string_view payload) {
@@ -48,10 +51,11 @@ Reply Operation::sendQuery(Length usable, std::string_view payload) {
 
 std::string Operation::sendTextQuery(std::string_view payload) {
   const int status = mCommand.request > 0xFF ? 2 : 1;
-  const Reply reply = sendQuery(atLeast(status + 2), payload);
+  const Reply reply = sendQuery(atLeast(status + 1), payload);
   if (!reply) return {};
-  if (reply.isOne(status)) return reply.text(status + 1);
-  return end(ToviOutcome::Rejected, std::string());
+  if (!reply.isOne(status)) return end(ToviOutcome::Rejected, std::string());
+  if (reply.size() < status + 2) return end(ToviOutcome::BadReply, std::string());
+  return reply.text(status + 1);
 }
 
 bool Operation::fits(std::string_view payload) {

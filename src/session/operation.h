@@ -86,6 +86,15 @@ class Operation : public Call {
     return guarded(std::string(), [&] { return sendTextQuery(payloadOf(parts...)); });
   }
 
+  // Sends a setting whose status is that byte of the reply, signed; -1 when there is none.
+  template <class... Parts>
+  int confirmAt(int n, const Parts&... parts) {
+    const auto status = [this, n](const Reply& reply) {
+      return reply.unsignedByte(n) == 0 ? end(ToviOutcome::Rejected, 0) : reply.signedByte(n);
+    };
+    return ask(atLeast(n + 1), -1, status, parts...);
+  }
+
   // Asks for one byte of the reply, signed; -1 when there is none.
   template <class... Parts>
   int askByte(int n, const Parts&... parts) {
