@@ -19,8 +19,8 @@ struct ParseResult {
 };
 
 // Strict JSON: exactly one value, white space around it allowed. Beyond the grammar:
-// - Bytes from 0x20 on pass through strings as they are, valid UTF-8 or not. Raw control bytes,
-//   unknown escapes and surrogates without their partner are errors; "\u0000" gives a zero byte.
+// - Bytes pass through strings as they are, valid UTF-8 or not, control characters too. Unknown
+//   escapes and surrogates without their partner are errors; "\u0000" gives a zero byte.
 // - A number without fraction and exponent is an integer: signed with a leading "-" or when it fits
 //   32 bits signed, else unsigned. Past 64 bits it becomes a double, like every other number.
 // - A number too large for a double is an error, for no text could carry the infinity onwards; one
