@@ -25,6 +25,7 @@ internal static class FirstCall
     string done = sign.SetBrightness(level);
     Console.WriteLine("setBrightness: " + done);
 
+    Console.WriteLine("getDeviceName: " + sign.GetDeviceName());
     const string wanted = "限速80";
     Console.WriteLine("setDeviceName: " + sign.SetDeviceName(wanted));
     string name = sign.GetDeviceName();

@@ -16,7 +16,6 @@
 // its CJK assemblies (Debian: libmono-i18n-cjk4.0-cil); .NET 5 and later do once its provider is
 // registered, as below.
 using System;
-using System.IO;
 using System.Runtime.InteropServices;
 using System.Text;
 
@@ -68,8 +67,6 @@ namespace ToviSdk
   /// <summary>One controller. Calls on different threads are independent.</summary>
   public sealed class Sign
   {
-    const string End = "interfaceEnd";
-
     static readonly Encoding Gbk = CodePage936();
 
     readonly byte[] ip;
@@ -106,20 +103,23 @@ namespace ToviSdk
     // The library's own text, never to be released.
     static string Status(IntPtr text) { return Encoding.ASCII.GetString(Bytes(text)); }
 
+    // The end is cut as bytes: half a character at the end of a controller's text takes the next
+    // one along.
     static string Report(IntPtr text)
     {
-      string report = Value(text);
-      if (!report.EndsWith(End, StringComparison.Ordinal)) throw new InvalidDataException(report);
-      return report.Substring(0, report.Length - End.Length);
+      byte[] report = Taken(text);
+      return Gbk.GetString(report, 0, report.Length - "interfaceEnd".Length);
     }
 
-    // A text that is ours: whatever becomes of it, it goes back.
-    static string Value(IntPtr text)
+    static string Value(IntPtr text) { return Gbk.GetString(Taken(text)); }
+
+    // The bytes of a text that is ours: whatever becomes of them, it goes back.
+    static byte[] Taken(IntPtr text)
     {
       if (text == IntPtr.Zero) throw new OutOfMemoryException();
       try
       {
-        return Gbk.GetString(Bytes(text));
+        return Bytes(text);
       }
       finally
       {
@@ -141,7 +141,9 @@ namespace ToviSdk
 #if NETCOREAPP
       Encoding.RegisterProvider(CodePagesEncodingProvider.Instance);
 #endif
-      return Encoding.GetEncoding(936);
+      // What a controller sends as text may be none: it is replaced.
+      return Encoding.GetEncoding(936, EncoderFallback.ReplacementFallback,
+                                  DecoderFallback.ReplacementFallback);
     }
   }
 }

@@ -5,14 +5,25 @@
 """
 
 import ctypes
+import os
 import sys
+
+END = b"interfaceEnd"
+
+
+def loaded(path):
+    """The library. Its log goes beside this program: by default it lies where the interpreter does."""
+    library = ctypes.CDLL(path)
+    own_folder = os.path.dirname(os.path.abspath(__file__))
+    library.tovi_set_log_folder(os.fsencode(os.path.join(own_folder, "log")))
+    return library
 
 
 class Sign:
     """One controller. Texts go out as UTF-8, reports come back as GBK."""
 
     def __init__(self, library, address, port):
-        self._library = ctypes.CDLL(library)
+        self._library = library
         self._address = address.encode("ascii")
         self._port = ctypes.c_ushort(port)
 
@@ -23,27 +34,32 @@ class Sign:
         return call(self._address, self._port, *arguments).decode("ascii")
 
     def report(self, function, *arguments):
-        """Calls a function whose text is ours: decodes it and gives it back."""
+        """Calls a function that gives a report, which is ours to release."""
         call = getattr(self._library, function)
         call.restype = ctypes.c_void_p  # not c_char_p, which would lose the pointer
         pointer = ctypes.c_void_p(call(self._address, self._port, *arguments))
         if not pointer:
             raise MemoryError(function)
         try:
-            return ctypes.string_at(pointer.value).decode("gbk")
+            report = ctypes.string_at(pointer)
         finally:
             self._library.deleteArry(ctypes.byref(pointer))
+        # Cut as bytes: half a character at the end of a controller's text takes the next one along.
+        return report.removesuffix(END).decode("gbk", errors="replace")
 
 
 def main(library, address, port, level="80"):
-    sign = Sign(library, address, int(port))
+    sign = Sign(loaded(library), address, int(port))
     done = sign.status("setBrightness", ctypes.c_int(int(level)))
     print("setBrightness:", done)
+
+    print("getDeviceName:", sign.report("getDeviceName"))
     print("setDeviceName:", sign.status("setDeviceName", "限速80".encode("utf-8")))
-    name = sign.report("getDeviceName").removesuffix("interfaceEnd")
+    name = sign.report("getDeviceName")
     print("getDeviceName:", name)
+
     status = sign.report("getDeviceType")
-    print(status.replace("\r\n", "\n").removesuffix("interfaceEnd"), end="")
+    print(status.replace("\r\n", "\n"), end="")
     return 0 if done == "success" and name == "限速80" and f"屏幕亮度:{level}\r\n" in status else 1
 
 

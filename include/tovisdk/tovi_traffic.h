@@ -203,8 +203,8 @@ class TOVISDK_API ToviTraffic {
   /// @name Timetables
   /// A list goes out as its count in one byte, then its entries: day, month, year (2 bytes, low
   /// byte first), second, minute, hour of the start, the same of the end, then what the timetable
-  /// adds. Keep lists below 256 entries. Fields are sent as they stand: year and month are calendar
-  /// values.
+  /// adds. Keep lists below 256 entries; one of more than 127 reads as empty. Fields are sent as
+  /// they stand: year and month are calendar values.
   ///
   /// Getters give a new list that the caller releases, or null when no reply of at least 2 bytes
   /// came; an entry that the reply does not hold whole ends the list. There, years count from 1900

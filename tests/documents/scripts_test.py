@@ -43,7 +43,7 @@ class WriteTables(ScriptTest):
     def test_what_is_behind_is_shown_and_then_written(self):
         in_document = ("docs/protocol.md", "| `setPower` | 0x05 |", "| `setPower` | 0x04 |")
         in_table = ("src/wire/command_table.h", '"setFont", 0xD2, 0xD2', '"setFont",\n 0xD2, kNoReply')
-        in_comment = ("include/tovisdk/flat.h", "Status. Plays a playlist.", "Always. Plays | stops.")
+        in_comment = ("include/tovisdk/flat.h", "Status. Restarts the controller.", "Always. Ends | starts.")
         in_build = ("CMakeLists.txt", '"Build the tests" ${PROJECT_IS_TOP_LEVEL}', '"Build tests" OFF')
         for change in (in_document, in_table, in_comment, in_build):
             self.change(*change)
@@ -54,7 +54,7 @@ class WriteTables(ScriptTest):
         self.assertIn("-| `setPower` | 0x04 | 0x06 | 100 | - |", shown)
         self.assertIn("+| `setPower` | 0x05 | 0x06 | 100 | - |", shown)
         self.assertIn("+| `setFont` | 0xD2 | none | none | 0 to 1024 |", shown)
-        self.assertIn("+| `playListById` | int id | always | Plays \\| stops. |", shown)
+        self.assertIn("+| `restartDevice` | - | always | Ends \\| starts. |", shown)
         self.assertIn("+| `TOVISDK_TESTS` | off | Build tests |", shown)
         after = [path.read_text(encoding="utf-8") for path in sorted(self.folder.glob("docs/*"))]
         self.assertEqual(after, before)
