@@ -54,8 +54,8 @@ Word wordAt(const char* bytes) {
 }
 
 // The highest bit of each byte that meets the altered entry.
-constexpr Word altered(Word quotient) {
-  const Word zeros = quotient ^ kEachByte * kAlteredQuotient;
+constexpr Word altered(Word result) {
+  const Word zeros = result ^ kEachByte * kAlteredQuotient;
   return ~(((zeros & kLowBits) + kLowBits) | zeros | kLowBits);
 }
 
