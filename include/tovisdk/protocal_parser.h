@@ -87,6 +87,9 @@ class TOVISDK_API ProtocalParser {
   bool needMore = false;
   int packageLen = 0;
   int pendingLen = 0;
+  short searchedFor = 0;
+  unsigned roomSize = 0;
+  char* room = nullptr;
 };
 
 #endif

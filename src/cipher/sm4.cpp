@@ -29,6 +29,13 @@ class ErrorScope {
   ErrorScope& operator=(const ErrorScope&) = delete;
 };
 
+// Looked up once: given by its name alone, it would be looked up anew for each message. Never given
+// back, for a host may encipher until its very end.
+const EVP_CIPHER* sm4Cbc() {
+  static const EVP_CIPHER* const found = EVP_CIPHER_fetch(nullptr, "SM4-CBC", nullptr);
+  return found != nullptr ? found : EVP_sm4_cbc();
+}
+
 const unsigned char* bytes(std::string_view text) {
   return reinterpret_cast<const unsigned char*>(text.data());
 }
@@ -57,8 +64,8 @@ int Sm4::encrypt(std::string_view plain, std::span<char> out) const {
   int updated = 0;
   int finished = 0;
   mustHaveMemory(context != nullptr);
-  mustHaveMemory(
-      EVP_EncryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data()) == 1);
+  mustHaveMemory(EVP_EncryptInit_ex(context.get(), sm4Cbc(), nullptr, mKey.data(), mKey.data()) ==
+                 1);
   mustHaveMemory(EVP_EncryptUpdate(context.get(), bytes(out), &updated, bytes(plain),
                                    static_cast<int>(plain.size())) == 1);
   mustHaveMemory(EVP_EncryptFinal_ex(context.get(), bytes(out) + updated, &finished) == 1);
@@ -72,8 +79,8 @@ int Sm4::decrypt(std::string_view ciphered, std::span<char> out) const {
   int updated = 0;
   int finished = 0;
   mustHaveMemory(context != nullptr);
-  mustHaveMemory(
-      EVP_DecryptInit_ex(context.get(), EVP_sm4_cbc(), nullptr, mKey.data(), mKey.data()) == 1);
+  mustHaveMemory(EVP_DecryptInit_ex(context.get(), sm4Cbc(), nullptr, mKey.data(), mKey.data()) ==
+                 1);
   EVP_DecryptUpdate(context.get(), bytes(out), &updated, bytes(ciphered),
                     static_cast<int>(ciphered.size()));
   EVP_DecryptFinal_ex(context.get(), bytes(out) + updated, &finished);

@@ -19,7 +19,7 @@ Session::Key Session::keyFor(short what) const {
   return {wire::kPlain, nullptr};
 }
 
-std::string Session::frameOf(short what, std::string_view payload) const {
+void Session::tellCipher(short what) const {
   const Key key = keyFor(what);
   if (key.mode == wire::kPlain) {
     log::info("ToviTraffic::makeSendPacket makeSendPacketEx normal mode");
@@ -28,11 +28,23 @@ std::string Session::frameOf(short what, std::string_view payload) const {
     log::info("ToviTraffic::makeSendPacket makeSendPacketEx %s mode, %s key = %s", name, name,
               log::shownKey(key.text));
   }
+}
+
+std::string_view Session::build(wire::FrameBuilder& builder, short what,
+                                std::string_view payload) const {
+  const Key key = keyFor(what);
   if (what <= wire::kExtendedCommand) {
-    return wire::makeFrame(static_cast<char>(what), payload, key.mode, key.text);
+    return builder.build(static_cast<char>(what), payload, key.mode, key.text);
   }
-  return wire::makeFrame(static_cast<char>(wire::kExtendedCommand), lowFirst(what).append(payload),
-                         key.mode, key.text);
+  return builder.build(static_cast<char>(wire::kExtendedCommand), lowFirst(what).append(payload),
+                       key.mode, key.text);
+}
+
+std::string Session::frameOf(short what, std::string_view payload) const {
+  tellCipher(what);
+  wire::FrameBuilder builder;
+  build(builder, what, payload);
+  return std::move(builder).frame();
 }
 
 std::size_t Session::mostPayload(short what) const {
@@ -54,6 +66,11 @@ int Session::send(std::uint64_t socket, short what, std::string_view payload) {
   }
   const std::optional<int> left = waitLeft(receiveTimeout(socket));
   return left ? platform::sendAll(socket, frame, *left, stop()) : -1;
+}
+
+int Session::sendBuilt(std::uint64_t socket, short what, std::string_view frame) {
+  tellCipher(what);
+  return platform::sendAll(socket, frame, mTraffic.mTimeout);
 }
 
 }  // namespace tovi::session

@@ -13,6 +13,7 @@
 
 #include "platform/stop.h"
 #include "wire/frame.h"
+#include "wire/packet_builder.h"
 
 namespace tovi::session {
 
@@ -32,6 +33,11 @@ class Session {
 
   // One request: the number of bytes sent, or -1.
   int send(std::uint64_t socket, short what, std::string_view payload);
+
+  // The same in two steps: a frame that is built in memory of the caller's, and sent when its turn
+  // has come, which is when the log tells of it.
+  std::string_view build(wire::FrameBuilder& builder, short what, std::string_view payload) const;
+  int sendBuilt(std::uint64_t socket, short what, std::string_view frame);
 
   // The reply to one command, for which the socket is read at most MAX_FAIL_COUNT times, up to
   // bufferSize bytes each: the command byte and the payload, or for a 16-bit command the payload
@@ -85,6 +91,7 @@ class Session {
   };
 
   Key keyFor(short what) const;
+  void tellCipher(short what) const;
   std::optional<std::string> exchange(std::uint64_t socket, short what, short rspWhat,
                                       std::string_view payload, int bufferSize);
   std::optional<std::string> receiveInThreeReads(std::uint64_t socket, short what,

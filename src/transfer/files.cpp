@@ -45,28 +45,72 @@ struct Sent {
   int nextNumber = 1;
 };
 
+constexpr short kChunkRequest = wire::wideCode(kChunk.row.command.request);
+
+// The chunks of a file, one after another in the same memory.
+class Chunks {
+ public:
+  Chunks(Session session, const char* path, int size)
+      : mSession(session),
+        mFile(path),
+        mPayload(kNumberSize + static_cast<std::size_t>(size), '\0') {}
+
+  // Reads the next chunk and frames it.
+  void next() {
+    mLength = static_cast<int>(mFile.read(std::span(mPayload).subspan(kNumberSize)));
+    if (mLength < 0) return;
+    // 16 bits that wrap: only files of 4 GiB and more get there.
+    mPayload.replace(0, kNumberSize, lowFirst(++mNumber));
+    const std::size_t size = kNumberSize + static_cast<std::size_t>(mLength);
+    mFrame = mSession.build(mBuilder, kChunkRequest, std::string_view(mPayload).substr(0, size));
+  }
+
+  // A file that has meanwhile lost what was read of it cannot be read any more.
+  void checkFile() {
+    if (mLength > 0 && mFile.hasShrunk()) mLength = -1;
+  }
+
+  int length() const { return mLength; }  // -1: the file cannot be read
+  std::string_view frame() const { return mFrame; }
+  const FileReader& file() const { return mFile; }
+
+ private:
+  Session mSession;
+  FileReader mFile;
+  std::string mPayload;
+  wire::FrameBuilder mBuilder;
+  std::string_view mFrame;
+  int mLength = 0;
+  int mNumber = 0;
+};
+
 // A controller knows the last chunk by its not being full. A read that fills the chunk has not met
 // the file's end yet, so a file of whole chunks is followed by one that holds its number alone.
+// While the controller takes in a chunk, the next one is made ready.
 int sendChunks(Session session, std::uint64_t socket, const char* path, int chunkSize, Sent& sent,
                const ToviTraffic::Progress& progress) {
-  FileReader file(path);
-  std::string payload(kNumberSize + static_cast<std::size_t>(chunkSize), '\0');
-  do {
-    sent.lastLen = static_cast<int>(file.read(std::span(payload).subspan(kNumberSize)));
+  Chunks chunks(session, path, chunkSize);
+  chunks.next();
+  for (bool last = false; !last;) {
+    sent.lastLen = chunks.length();
     if (sent.lastLen < 0) {
       log::error("ToviTraffic::sendFileContent cannot read %s", path);
       return session.end(ToviOutcome::LocalFile, ToviTraffic::LOCAL_FILE_ERROR);
     }
-    // 16 bits that wrap: only files of 4 GiB and more get there.
-    payload.replace(0, kNumberSize, lowFirst(sent.nextNumber++));
-    const std::size_t size = kNumberSize + static_cast<std::size_t>(sent.lastLen);
-    const int result = sendStep(session, socket, kChunk, std::string_view(payload).substr(0, size));
+    ++sent.nextNumber;
+    const bool wentOut = session.sendBuilt(socket, kChunkRequest, chunks.frame()) >= 0;
+    const long long position = chunks.file().position();
+    last = chunks.file().atEnd();
+    if (!last) chunks.next();
+    const int result = awaitStep(session, socket, kChunk, wentOut);
     if (result != ToviTraffic::SUCCESS) return result;
-    if (progress && !progress(file.position(), file.size())) {
+    if (!progress) continue;
+    if (!progress(position, chunks.file().size())) {
       log::info("ToviTraffic::sendFileContent stopped by the host");
       return session.end(ToviOutcome::Stopped, ToviTraffic::STOPPED_BY_HOST);
     }
-  } while (!file.atEnd());
+    chunks.checkFile();
+  }
   return ToviTraffic::SUCCESS;
 }
 

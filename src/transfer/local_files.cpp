@@ -3,6 +3,7 @@
 
 #include <tovisdk/files.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -28,8 +29,18 @@ long long FileReader::read(std::span<char> room) {
   if (!mFile.good()) return -1;
   mFile.read(room.data(), static_cast<std::streamsize>(room.size()));
   mPosition += mFile.gcount();
-  if (mFile.bad() || (mFile.eof() && mPosition < mSize)) return -1;
+  mAtEnd = mFile.eof();
+  if (mFile.bad() || (mAtEnd && mPosition < mSize)) return -1;
   return mFile.gcount();
+}
+
+bool FileReader::hasShrunk() {
+  if (mSize < 0) return false;
+  mFile.clear();
+  mFile.seekg(0, std::ios::end);
+  const bool shrunk = mFile.tellg() < std::min(mPosition, mSize);
+  mFile.seekg(mPosition);
+  return shrunk;
 }
 
 bool makeEmptyFile(const char* path) { return std::ofstream(path, std::ios::trunc).is_open(); }

@@ -19,13 +19,17 @@ class FileReader {
   long long read(std::span<char> room);
 
   // Whether a read met the end. One that stops exactly there has not met it yet.
-  bool atEnd() const { return mFile.eof(); }
+  bool atEnd() const { return mAtEnd; }
+
+  // Whether what was read of it is no longer there.
+  bool hasShrunk();
 
   long long position() const { return mPosition; }
   long long size() const { return mSize; }  // when it was opened; -1: not known, as of a pipe
 
  private:
   std::ifstream mFile;
+  bool mAtEnd = false;
   long long mSize = -1;
   long long mPosition = 0;
 };

@@ -5,6 +5,8 @@
 
 #include <array>
 
+#include "foundation/bytes.h"
+
 namespace tovi::wire {
 namespace {
 
@@ -16,9 +18,7 @@ constexpr std::array<std::uint16_t, 256> makeCrcTable() {
       value = (value & 1u) != 0 ? (value >> 1) ^ 0x8408u : value >> 1;
     table[index] = static_cast<std::uint16_t>(value);
   }
-  // The controllers' own table differs from the polynomial's in this entry (0x19C9), and frames
-  // only verify with theirs.
-  table[0x89] = 0x019C;
+  table[kAlteredIndex] = kAlteredEntry;
   return table;
 }
 
@@ -26,8 +26,8 @@ constexpr std::array<std::uint16_t, 256> CRC_TABLE = makeCrcTable();
 
 }  // namespace
 
-std::uint16_t checksum(std::string_view bytes) {
-  unsigned crc = 0xFFFF;
+std::uint16_t checksumByBytes(std::string_view bytes, std::uint16_t before) {
+  unsigned crc = before;
   for (const char byte : bytes) {
     crc = crc >> 8 ^ CRC_TABLE[(crc ^ static_cast<unsigned char>(byte)) & 0xFFu];
   }
@@ -37,6 +37,5 @@ std::uint16_t checksum(std::string_view bytes) {
 }  // namespace tovi::wire
 
 short pubCalcCRC(char* data, int len) {
-  return static_cast<short>(
-      tovi::wire::checksum({data, len > 0 ? static_cast<std::size_t>(len) : 0}));
+  return static_cast<short>(tovi::wire::checksum(tovi::viewOf(data, len)));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wire/packet_receiver.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <utility>
@@ -12,6 +13,7 @@
 #include "foundation/bytes.h"
 #include "foundation/memory.h"
 #include "wire/checksum.h"
+#include "wire/escaping.h"
 #include "wire/frame.h"
 
 namespace tovi::wire {
@@ -21,90 +23,66 @@ constexpr std::size_t kMaxKept = std::size_t{4} << 20;
 constexpr std::size_t kMaxBlock = 16;
 constexpr std::size_t kCodeSize = 2;  // a 16-bit command code at the start of a payload
 
-// The byte that an escaped one stands for; nothing else may follow the escape flag.
-bool unescapeByte(char escaped, char& byte) {
-  switch (escaped) {
-    case 0x0A:
-      byte = ProtocalParser::PACKET_START_FLAG;
-      return true;
-    case 0x0C:
-      byte = ProtocalParser::PACKET_END_FLAG;
-      return true;
-    case 0x0E:
-      byte = ProtocalParser::PACKET_TRANSFER_FLAG;
-      return true;
-    default:
-      return false;
-  }
-}
-
-std::optional<std::string> unescape(std::string_view escaped) {
-  std::string plain;
-  plain.reserve(escaped.size());
-  for (std::size_t i = 0; i < escaped.size(); ++i) {
-    char byte = escaped[i];
-    if (byte == ProtocalParser::PACKET_TRANSFER_FLAG &&
-        (++i == escaped.size() || !unescapeByte(escaped[i], byte))) {
-      return std::nullopt;
-    }
-    plain += byte;
-  }
-  return plain;
-}
-
 }  // namespace
 
 std::optional<std::string> Receiver::receive(std::string_view bytes, short what) {
+  // What was searched for the same reply before needs no second look.
+  const bool goesOn = mParser.needMore && mParser.pendingLen > 0 && mParser.searchedFor == what;
   mParser.needMore = false;
   mParser.packageLen = 0;
-  std::string work(viewOf(mParser.pending, mParser.pendingLen));
-  work += bytes;
+  const std::string_view work = mParser.room == nullptr ? bytes : keptAnd(bytes);
 
   // The bytes are taken to begin inside a frame, whatever the first one is. A frame's bytes always
-  // stand together, so it is read in place: from `start`, blockLen bytes.
-  beginFrame();
-  std::size_t start = 0;
-  for (std::size_t i = 0; i < work.size(); ++i) {
-    if (mParser.rcvState == ProtocalParser::NO_START_RCV) {
-      if (work[i] != ProtocalParser::PACKET_START_FLAG) continue;
-      beginFrame();
-      start = i;
-    }
-    if (!store(work[i])) continue;
-    const std::string_view frame = std::string_view(work).substr(start, i + 1 - start);
-    if (std::optional<std::string> package = open(frame, what)) {
+  // stand together, so it is read in place: from `start` up to `at`.
+  if (!goesOn) beginFrame();
+  std::size_t at = goesOn ? static_cast<std::size_t>(mParser.pendingLen) : 0;
+  std::size_t start = at - static_cast<std::size_t>(mParser.blockLen);
+  while (findFrame(work, start, at)) {
+    if (std::optional<std::string> package = open(work.substr(start, at - start), what)) {
       // A reply in hand is worth more than the bytes behind it.
-      if (!tryKeep(std::string_view(work).substr(i + 1))) forget();
+      if (!tryKeep(work.substr(at))) forget();
       return package;
     }
   }
-  keep(work.size() > kMaxKept ? unfinished(work, start) : work);
+  if (!tryKeep(work.size() > kMaxKept ? unfinished(work, start) : work)) throw std::bad_alloc();
   mParser.needMore = true;
+  mParser.searchedFor = what;
   return std::nullopt;
 }
 
 void Receiver::beginFrame() {
   mParser.rcvState = ProtocalParser::START_RCV;
-  mParser.blockSize = ProtocalParser::DEFLAUT_PARK_BLOCK_SIZE;
-  mParser.blockLen = 0;
+  setBlockLen(0);
 }
 
-// Whether the byte completes a frame.
-bool Receiver::store(char byte) {
-  if (mParser.blockLen == mParser.blockSize) {
-    mParser.blockSize += ProtocalParser::DEFLAUT_PARK_BLOCK_SIZE;
+void Receiver::setBlockLen(std::size_t length) {
+  constexpr auto kStep = static_cast<std::size_t>(ProtocalParser::DEFLAUT_PARK_BLOCK_SIZE);
+  const std::size_t steps = length == 0 ? 1 : (length + kStep - 1) / kStep;
+  mParser.blockLen = static_cast<int>(length);
+  mParser.blockSize = static_cast<int>(steps * kStep);
+}
+
+// Goes on from `at` behind the next whole frame; false when the bytes end before.
+bool Receiver::findFrame(std::string_view work, std::size_t& start, std::size_t& at) {
+  if (mParser.rcvState == ProtocalParser::NO_START_RCV) {
+    start = at = std::min(work.find(ProtocalParser::PACKET_START_FLAG, at), work.size());
+    if (at == work.size()) return false;
+    beginFrame();
   }
-  ++mParser.blockLen;
   if (mParser.rcvState == ProtocalParser::START_RCV) {
-    if (byte == ProtocalParser::PACKET_END_FLAG) {
+    const std::size_t flag = work.find(ProtocalParser::PACKET_END_FLAG, at);
+    at = flag == std::string_view::npos ? work.size() : flag + 1;
+    if (flag != std::string_view::npos) {
       mParser.rcvState = ProtocalParser::START_RCV_END;
       mParser.crcLeft = ProtocalParser::END_CRC_SIZE;
     }
-    return false;
   }
-  if (--mParser.crcLeft > 0) return false;
-  mParser.rcvState = ProtocalParser::NO_START_RCV;
-  return true;
+  if (mParser.rcvState == ProtocalParser::START_RCV_END) {
+    for (; mParser.crcLeft > 0 && at < work.size(); ++at) --mParser.crcLeft;
+    if (mParser.crcLeft == 0) mParser.rcvState = ProtocalParser::NO_START_RCV;
+  }
+  setBlockLen(at - start);
+  return mParser.rcvState == ProtocalParser::NO_START_RCV;
 }
 
 // What is kept of a stream without an end in sight: only the frame that is still open may yet
@@ -115,21 +93,44 @@ std::string_view Receiver::unfinished(std::string_view work, std::size_t start) 
   return work.size() > kMaxKept ? std::string_view() : work;
 }
 
-void Receiver::keep(std::string_view bytes) {
-  if (!tryKeep(bytes)) throw std::bad_alloc();
+// The kept bytes and more behind them, which are not kept by that. Their room grows twofold, so
+// that a stream of many pieces is not copied anew for each.
+std::string_view Receiver::keptAnd(std::string_view bytes) {
+  const auto kept = static_cast<std::size_t>(mParser.pendingLen);
+  const std::size_t size = kept + bytes.size();
+  const auto before = static_cast<std::size_t>(mParser.pending - mParser.room);
+  if (before + size > mParser.roomSize) {
+    const std::size_t roomSize = std::max(size, std::min(2 * size, kMaxKept));
+    auto room = std::make_unique_for_overwrite<char[]>(roomSize);
+    std::copy_n(mParser.pending, kept, room.get());
+    takeRoom(room.release(), roomSize);
+  }
+  bytes.copy(mParser.pending + kept, bytes.size());
+  return {mParser.pending, size};
 }
 
-// False when memory is out, which leaves everything as it was.
+// Keeps these bytes and no others. Where some are kept already these are among what keptAnd gave,
+// and stay where they are as long as they are a fair part of it. False when memory is out, which
+// leaves everything as it was.
 bool Receiver::tryKeep(std::string_view bytes) {
-  char* kept = nullptr;
-  if (!bytes.empty()) {
-    kept = new (std::nothrow) char[bytes.size()];
-    if (kept == nullptr) return false;
-    bytes.copy(kept, bytes.size());
+  if (bytes.empty()) {
+    takeRoom(nullptr, 0);
+  } else if (mParser.room == nullptr || bytes.size() < mParser.roomSize / 4) {
+    char* room = new (std::nothrow) char[bytes.size()];
+    if (room == nullptr) return false;
+    bytes.copy(room, bytes.size());
+    takeRoom(room, bytes.size());
+  } else {
+    mParser.pending += bytes.data() - mParser.pending;
   }
-  delete[] std::exchange(mParser.pending, kept);
   mParser.pendingLen = static_cast<int>(bytes.size());
   return true;
+}
+
+void Receiver::takeRoom(char* room, std::size_t size) {
+  delete[] std::exchange(mParser.room, room);
+  mParser.roomSize = static_cast<unsigned>(size);
+  mParser.pending = room;
 }
 
 void Receiver::takeKey(char* key, int mode) {
@@ -150,23 +151,26 @@ std::optional<std::string> Receiver::open(std::string_view frame, short what) {
   if (frame.size() < ProtocalParser::PACKET_MIN_SIZE) return std::nullopt;
   const std::size_t checked = frame.size() - ProtocalParser::PACKET_CRC_SIZE;
   if (checksum(frame.substr(0, checked)) != lowFirstAt(frame, checked)) return std::nullopt;
-  const std::optional<std::string> plain = unescape(frame.substr(0, checked));
+  std::string package(checked, '\0');
+  const char* const end = unescape(frame.substr(0, checked), package.data());
+  if (end == nullptr) return std::nullopt;
+  const auto plain = static_cast<std::size_t>(end - package.data());
   // Escapes in the header can shorten a frame below its smallest size.
-  if (!plain || plain->size() + ProtocalParser::PACKET_CRC_SIZE < ProtocalParser::PACKET_MIN_SIZE) {
+  if (plain + ProtocalParser::PACKET_CRC_SIZE < ProtocalParser::PACKET_MIN_SIZE) {
     return std::nullopt;
   }
-  const char whatByte = (*plain)[ProtocalParser::PACKET_WHAT_OFFSET];
-  std::string payload = plain->substr(ProtocalParser::PACKET_DATA_OFFSET,
-                                      plain->size() - ProtocalParser::PACKET_DATA_OFFSET - 1);
+  package.resize(plain - 1);  // without the end flag
+  package.erase(0, ProtocalParser::PACKET_WHAT_OFFSET);
+  const char whatByte = package[0];
   if (what > kExtendedCommand) {
-    if (!openExtended(payload, whatByte, what)) return std::nullopt;
+    package.erase(0, 1);
+    if (!openExtended(package, whatByte, what)) return std::nullopt;
   } else {
     if (static_cast<signed char>(whatByte) != what) return std::nullopt;
-    if (hasCipher() && !payload.empty() && whatByte != kSecretReply) decipher(payload);
-    payload.insert(payload.begin(), whatByte);
+    if (hasCipher() && package.size() > 1 && whatByte != kSecretReply) decipher(package, 1);
   }
-  mParser.packageLen = static_cast<int>(payload.size());
-  return payload;
+  mParser.packageLen = static_cast<int>(package.size());
+  return package;
 }
 
 // Opens the reply to a 16-bit command; false when the payload answers another one.
@@ -174,14 +178,15 @@ bool Receiver::openExtended(std::string& payload, char whatByte, short what) con
   if (payload.size() < kCodeSize) return false;
   auto code = static_cast<short>(lowFirstAt(payload, 0));
   if (hasCipher() && whatByte != kSecretReply && code != kIsSecret) {
-    code = static_cast<short>(lowFirstAt(decipher(payload), 0));
+    code = static_cast<short>(lowFirstAt(decipher(payload, 0), 0));
   }
   return code == what;
 }
 
-// Deciphers a payload in place; one that cannot be deciphered stays as it came. Returns what the
-// cipher put out in either case, at least a block of it.
-std::string Receiver::decipher(std::string& payload) const {
+// Deciphers what stands in a text from a place on; what cannot be deciphered stays as it came.
+// Returns what the cipher put out in either case, at least a block of it.
+std::string Receiver::decipher(std::string& text, std::size_t from) const {
+  const std::string_view payload = std::string_view(text).substr(from);
   std::string plain(payload.size() + kMaxBlock, '\0');
   int length = 0;
   if (mParser.desKey != nullptr) {
@@ -191,7 +196,7 @@ std::string Receiver::decipher(std::string& payload) const {
   } else if (mParser.sm4 != nullptr) {
     length = mParser.sm4->decrypt(payload, plain);
   }
-  if (length > 0) payload = plain.substr(0, static_cast<std::size_t>(length));
+  if (length > 0) text.replace(from, std::string::npos, plain, 0, static_cast<std::size_t>(length));
   return plain;
 }
 
@@ -213,7 +218,7 @@ ProtocalParser::ProtocalParser(char* key, int mode) {
 }
 
 ProtocalParser::~ProtocalParser() {
-  delete[] pending;
+  delete[] room;
   delete aes;
   delete md5;
   delete[] desKey;

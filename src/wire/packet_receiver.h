@@ -34,12 +34,14 @@ class Receiver {
 
  private:
   void beginFrame();
-  bool store(char byte);
+  void setBlockLen(std::size_t length);
+  bool findFrame(std::string_view work, std::size_t& start, std::size_t& at);
   std::string_view unfinished(std::string_view work, std::size_t start) const;
-  void keep(std::string_view bytes);
+  std::string_view keptAnd(std::string_view bytes);
   bool tryKeep(std::string_view bytes);
+  void takeRoom(char* room, std::size_t size);
   bool openExtended(std::string& payload, char whatByte, short what) const;
-  std::string decipher(std::string& payload) const;
+  std::string decipher(std::string& text, std::size_t from) const;
 
   ProtocalParser& mParser;
 };

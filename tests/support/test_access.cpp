@@ -41,4 +41,6 @@ std::string pending(const ProtocalParser& parser) {
   return std::string(viewOf(parser.pending, parser.pendingLen));
 }
 
+std::size_t roomSize(const ProtocalParser& parser) { return parser.roomSize; }
+
 }  // namespace tovi::test::access

@@ -21,5 +21,6 @@ void setSocket(ToviTraffic& traffic, std::uint64_t socket);
 
 bool needMore(const ProtocalParser& parser);
 std::string pending(const ProtocalParser& parser);
+std::size_t roomSize(const ProtocalParser& parser);
 
 }  // namespace tovi::test::access

@@ -186,18 +186,27 @@ TEST_F(FileSending, FindsOutAboutTheFileOnceTheNameIsAcknowledged) {
   }
 }
 
+// What is read ahead of its turn is told of in its turn, and only as long as the file still has it.
 TEST_F(FileSending, DoesNotPassOffAShrunkenFileAsWhole) {
   const std::string path = mFolder.file(pattern(200000));
   acceptFile(3);
-  EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin",
-                              [&](long long, long long) {
-                                std::filesystem::resize_file(path, 100000);
-                                return true;
-                              }),
-            -13);
+  const auto progress = [&](long long sent, long long) {
+    tovi_info("host: %lld", sent);
+    if (sent > 100000) std::filesystem::resize_file(path, 150000);
+    return true;
+  };
+  EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin", progress), -13);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
-  EXPECT_EQ(sentChunks().size(), 1u);
+  EXPECT_EQ(sentChunks().size(), 2u);
   expectNothingLeft();
+  Lines told;
+  for (const std::string& record : fake().log()) {
+    for (const char* word : {"makeSendPacket", "recv buf end", "host", "cannot"}) {
+      if (record.find(word) != std::string::npos) told.emplace_back(word);
+    }
+  }
+  EXPECT_EQ(told, (Lines{"makeSendPacket", "recv buf end", "makeSendPacket", "recv buf end", "host",
+                         "makeSendPacket", "recv buf end", "host", "cannot"}));
 }
 
 TEST_F(FileSending, TellsItsProgress) {

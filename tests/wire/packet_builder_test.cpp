@@ -2,6 +2,7 @@
 #include <tovisdk/packet.h>
 #include <tovisdk/text.h>
 
+#include "tests/support/failing_memory.h"
 #include "tests/support/fake_platform_test.h"
 #include "tests/support/hex.h"
 
@@ -99,6 +100,19 @@ TEST_F(PacketBuilder, APayloadThatOutgrowsAFrameIsSentEmpty) {
     EXPECT_TRUE(fake().logged(c.record));
   }
   EXPECT_EQ(build(0x10, std::string(70000, '\xAA'), 0, nullptr).size(), 140007u);
+}
+
+TEST_F(PacketBuilder, APlainFrameTakesMemoryOnce) {
+  std::string payload(60000, '\xAA');
+  int size = 0;
+  char* frame = nullptr;
+  {
+    const tovi::test::FailingMemory failing(2, true);
+    frame = makeSendPacketEx(0x13, payload.data(), 60000, 0, nullptr, &size);
+  }
+  EXPECT_NE(frame, nullptr);
+  EXPECT_EQ(size, 120007);
+  deleteArry(&frame);
 }
 
 TEST_F(PacketBuilder, ArgumentsThatCannotBeFramedAreRefused) {

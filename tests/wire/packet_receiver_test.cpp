@@ -2,9 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <memory>
-#include <optional>
+#include <random>
+#include <string>
+#include <vector>
 
+#include "tests/support/failing_memory.h"
 #include "tests/support/hex.h"
 #include "tests/support/test_access.h"
 
@@ -98,6 +102,76 @@ TEST(PacketReceiver, AFrameMayBeSplitAnywhere) {
         << cut;
     EXPECT_EQ(access::pending(parser), "");
   }
+}
+
+// Frames for one command or another, whole, broken and half, and what is none.
+std::string hostileStream(std::mt19937& random) {
+  const std::string parts[] = {
+      hex(kAccepted08),
+      hex("AA FF FF 10 CC 34 0C"),
+      hex("AA FF FF 7E 00 EE 0A EE 0C EE 0E FF CC 29 A0"),
+      hex("AA FF FF 08 01 CC 4E 43"),
+      hex("AA FF FF 08 01 EE 00 CC 83 07"),
+      hex("AA EE 0A EE 0C CC 36 8B"),
+      hex("AA FF FF 08 CC"),
+      hex("AA FF"),
+      hex("AA AA"),
+      hex("CC CC CC"),
+      "x",
+      std::string(40, 'x'),
+  };
+  std::string stream;
+  while (stream.size() < 400) stream += parts[random() % std::size(parts)];
+  return stream;
+}
+
+// All packages of a stream, for one command and the other in turns, and what stays of it.
+std::vector<std::string> packagesOf(const std::string& stream,
+                                    const std::function<std::size_t()>& nextPiece) {
+  ProtocalParser parser;
+  std::vector<std::string> packages;
+  const auto code = [&] { return packages.size() % 2 == 0 ? 0x08 : 0x10; };
+  for (std::size_t at = 0, size = 0; at < stream.size(); at += size) {
+    size = nextPiece();
+    std::string package = feed(parser, stream.substr(at, size), code());
+    for (; package != kNone; package = feed(parser, "", code())) packages.push_back(package);
+  }
+  packages.push_back("left: " + toHex(access::pending(parser)));
+  return packages;
+}
+
+TEST(PacketReceiver, AStreamMayBeCutAnywhere) {
+  std::mt19937 random(1);
+  std::size_t found = 0;
+  for (int i = 0; i < 40; ++i) {
+    const std::string stream = hostileStream(random);
+    const auto whole = packagesOf(stream, [&] { return stream.size(); });
+    found += whole.size() - 1;
+    for (std::size_t piece = 1; piece < 20; ++piece) {
+      ASSERT_EQ(packagesOf(stream, [&] { return piece; }), whole) << toHex(stream);
+    }
+    ASSERT_EQ(packagesOf(stream, [&] { return random() % 30; }), whole) << toHex(stream);
+  }
+  EXPECT_GT(found, 40u);
+}
+
+TEST(PacketReceiver, AFrameInManyReadsIsNotCopiedForEach) {
+  constexpr std::size_t kRead = 100;
+  std::string frame = hex("AA FF FF 08");
+  for (int i = 0; i < 65535; ++i) frame += "\xEE\x0A";
+  frame += hex("CC F5 32");
+  ProtocalParser parser;
+  char* package = nullptr;
+  {
+    // There are more than a thousand reads.
+    const tovi::test::FailingMemory failing(30, true);
+    for (std::size_t at = 0; at < frame.size(); at += kRead) {
+      const std::size_t size = std::min(kRead, frame.size() - at);
+      package = parser.recvProc(frame.data() + at, static_cast<int>(size), 0x08);
+    }
+  }
+  EXPECT_NE(package, nullptr);
+  deleteArry(&package);
 }
 
 TEST(PacketReceiver, BytesAfterAPackageAreKept) {
@@ -207,15 +281,18 @@ TEST(PacketReceiver, FramesLargerThanABlockGrow) {
 TEST(PacketReceiver, KeptBytesAreBounded) {
   constexpr std::size_t kBound = std::size_t{4} << 20;
   ProtocalParser parser;
-  const std::string endless(1 << 20, 'x');
+  const std::string endless(3 << 19, 'x');
   for (int i = 0; i < 12; ++i) {
     EXPECT_EQ(feed(parser, endless, 0x08), kNone);
     EXPECT_LE(access::pending(parser).size(), kBound);
+    EXPECT_LE(access::roomSize(parser), kBound);
   }
   // A frame that is still open when the bound is met survives it.
   ProtocalParser open;
-  feed(open, std::string(kBound, 'x') + hex("CC 00 00 AA FF FF 08"), 0x08);
+  feed(open, std::string(kBound, 'x'), 0x08);
+  feed(open, hex("CC 00 00 AA FF FF 08"), 0x08);
   EXPECT_EQ(toHex(access::pending(open)), "AA FF FF 08");
+  EXPECT_LE(access::roomSize(open), 100u);
   EXPECT_EQ(feed(open, hex("01 CC 4E 42"), 0x08), "08 01");
 }
 
