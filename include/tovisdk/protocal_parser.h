@@ -64,7 +64,8 @@ class TOVISDK_API ProtocalParser {
   /// @return a new array that the caller releases with deleteArry: the command byte and the plain
   /// payload, or for a 16-bit command the payload alone, which begins with the code, low byte
   /// first. Null when no matching reply is complete; frames with a wrong checksum, a bad escape or
-  /// another command are skipped. Null as well when memory is out.
+  /// another command are skipped. Null as well when memory is out; the bytes are then not taken and
+  /// may be given again.
   char* recvProc(char* data, int len, short what);
 
   /// Length in bytes of the package that the last recvProc returned; 0 when it returned none.
@@ -85,6 +86,7 @@ class TOVISDK_API ProtocalParser {
   tovi::cipher::Sm4* sm4 = nullptr;
   char* pending = nullptr;
   bool needMore = false;
+  bool lostBytes = false;
   int packageLen = 0;
   int pendingLen = 0;
   short searchedFor = 0;

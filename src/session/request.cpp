@@ -59,18 +59,21 @@ bool Session::isEnciphered() const {
 }
 
 int Session::send(std::uint64_t socket, short what, std::string_view payload) {
-  const std::string frame = frameOf(what, payload);
+  return sendFrame(socket, frameOf(what, payload));
+}
+
+int Session::sendBuilt(std::uint64_t socket, short what, std::string_view frame) {
+  tellCipher(what);
+  return sendFrame(socket, frame);
+}
+
+int Session::sendFrame(std::uint64_t socket, std::string_view frame) {
   if (!waitsUntilTimeout()) return platform::sendAll(socket, frame, mTraffic.mTimeout, stop());
   if (mTraffic.mSocket == 0 && mTraffic.mProtocalParser != nullptr) {
     wire::Receiver(*mTraffic.mProtocalParser).forget();
   }
   const std::optional<int> left = waitLeft(receiveTimeout(socket));
   return left ? platform::sendAll(socket, frame, *left, stop()) : -1;
-}
-
-int Session::sendBuilt(std::uint64_t socket, short what, std::string_view frame) {
-  tellCipher(what);
-  return platform::sendAll(socket, frame, mTraffic.mTimeout);
 }
 
 }  // namespace tovi::session

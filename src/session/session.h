@@ -92,6 +92,7 @@ class Session {
 
   Key keyFor(short what) const;
   void tellCipher(short what) const;
+  int sendFrame(std::uint64_t socket, std::string_view frame);
   std::optional<std::string> exchange(std::uint64_t socket, short what, short rspWhat,
                                       std::string_view payload, int bufferSize);
   std::optional<std::string> receiveInThreeReads(std::uint64_t socket, short what,

@@ -7,6 +7,7 @@
 #include "foundation/log.h"
 #include "platform/system.h"
 #include "session/session.h"
+#include "wire/packet_receiver.h"
 
 namespace tovi::session {
 
@@ -19,6 +20,7 @@ constexpr long long kNever = std::numeric_limits<long long>::max();
 void Session::begin() {
   mTraffic.mCancelled = false;
   mTraffic.mExchangeEnds = 0;
+  if (mTraffic.mProtocalParser != nullptr) wire::Receiver(*mTraffic.mProtocalParser).forgetLoss();
 }
 
 std::optional<int> Session::waitLeft(int timeoutMs) {
@@ -30,10 +32,17 @@ std::optional<int> Session::waitLeft(int timeoutMs) {
   return now < ends ? std::optional(static_cast<int>(ends - now)) : std::nullopt;
 }
 
+// What did not come may have been stopped, or there was no memory to keep it.
 void Session::end(ToviOutcome outcome) {
   const bool waited = outcome == ToviOutcome::NoConnection || outcome == ToviOutcome::SendFailed ||
                       outcome == ToviOutcome::NoReply;
-  mTraffic.mOutcome = waited && platform::isStopped(stop()) ? ToviOutcome::Stopped : outcome;
+  if (waited && platform::isStopped(stop())) {
+    outcome = ToviOutcome::Stopped;
+  } else if (outcome == ToviOutcome::NoReply && mTraffic.mProtocalParser != nullptr &&
+             wire::Receiver(*mTraffic.mProtocalParser).hasLost()) {
+    outcome = ToviOutcome::OutOfMemory;
+  }
+  mTraffic.mOutcome = outcome;
 }
 
 }  // namespace tovi::session

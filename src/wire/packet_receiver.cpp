@@ -40,7 +40,10 @@ std::optional<std::string> Receiver::receive(std::string_view bytes, short what)
   while (findFrame(work, start, at)) {
     if (std::optional<std::string> package = open(work.substr(start, at - start), what)) {
       // A reply in hand is worth more than the bytes behind it.
-      if (!tryKeep(work.substr(at))) forget();
+      if (!tryKeep(work.substr(at))) {
+        forget();
+        mParser.lostBytes = true;
+      }
       return package;
     }
   }
@@ -101,7 +104,7 @@ std::string_view Receiver::keptAnd(std::string_view bytes) {
   const auto before = static_cast<std::size_t>(mParser.pending - mParser.room);
   if (before + size > mParser.roomSize) {
     const std::size_t roomSize = std::max(size, std::min(2 * size, kMaxKept));
-    auto room = std::make_unique_for_overwrite<char[]>(roomSize);
+    auto array = std::make_unique_for_overwrite<char[]>(roomSize);
     std::copy_n(mParser.pending, kept, room.get());
     takeRoom(room.release(), roomSize);
   }
@@ -227,9 +230,16 @@ ProtocalParser::~ProtocalParser() {
 
 char* ProtocalParser::recvProc(char* data, int len, short what) {
   char* const none = nullptr;
-  return tovi::whereMemoryAllows(none, [&] {
-    const auto package = Receiver(*this).receive(tovi::viewOf(data, len), what);
-    return package ? tovi::newArray(*package) : nullptr;
+  packageLen = 0;
+  return tovi::whereMemoryAllows(none, [&]() -> char* {
+    const std::string_view bytes = tovi::viewOf(data, len);
+    // Taken before the package is: one that is found and has no room would be lost.
+    auto array = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(pendingLen) +
+                                                        bytes.size() + 1);
+    const std::optional<std::string> package = Receiver(*this).receive(bytes, what);
+    if (!package) return nullptr;
+    package->copy(array.get(), package->size());
+    return array.release();
   });
 }
 

@@ -32,6 +32,10 @@ class Receiver {
 
   void forget() { tryKeep({}); }
 
+  // Whether there was no memory to keep what came behind a reply.
+  bool hasLost() const { return mParser.lostBytes; }
+  void forgetLoss() { mParser.lostBytes = false; }
+
  private:
   void beginFrame();
   void setBlockLen(std::size_t length);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/failing_memory.h"
 
+#include <openssl/crypto.h>
+
 #include <cstdlib>
 #include <new>
 
@@ -23,6 +25,14 @@ void* takeOrThrow(std::size_t size) {
   if (void* block = take(size)) return block;
   throw std::bad_alloc();
 }
+
+// libcrypto's memory is ours, too; it must be told before it takes any.
+void* cryptoTake(std::size_t size, const char*, int) { return size == 0 ? nullptr : take(size); }
+void* cryptoResize(void* block, std::size_t size, const char*, int) {
+  return gArmed && take(0) == nullptr ? nullptr : std::realloc(block, size);
+}
+void cryptoRelease(void* block, const char*, int) { std::free(block); }
+const int gCryptoIsTold = CRYPTO_set_mem_functions(cryptoTake, cryptoResize, cryptoRelease);
 #endif
 
 }  // namespace
