@@ -167,9 +167,7 @@ TEST_F(CliCommands, EndTheirHelpWithTheirCodes) {
     std::string command, codes, text;  // the text's length among the arguments
   } cases[] = {
       {"get-rds-road", "command 0x9A, reply 0x9A", ""},
-      {"set-device-ntp-param", "command 0x97, reply 0x97", "  Host name or address\n"},
       {"set-server-ip-lists", "command 0x010D, reply 0x010D", "  The list\n"},
-      {"set-ssh-enabled", "command 0x0110, reply 0x0110", ""},
       {"send-heart-beat", "command 0x00; no reply is awaited", ""},
       {"set-font", "command 0xD2, reply 0xD2; text of at most 1024 bytes", "  At most 1024 bytes"},
       {"remove-app-page-name", "command 0x9F, reply 0x9F; text of 1 to 256 bytes", ", 1 to 256 b"},

@@ -8,7 +8,6 @@
 #include <tuple>
 #include <type_traits>
 
-#include "flat/grammar.h"
 #include "tests/support/fake_platform_test.h"
 
 namespace {
@@ -110,35 +109,6 @@ TEST_F(FlatArguments, OfEveryKindGetAnAnswer) {
   }
   EXPECT_EQ(std::count(fake().connections.begin(), fake().connections.end(), "127.0.0.1:5005"), 0);
   EXPECT_EQ(fake().opened, fake().closed);
-}
-
-TEST(FlatGrammar, DateTimeTokens) {
-  struct {
-    const char* token;
-    int fields[6];
-  } const cases[] = {{"2024-1-2-3-4-5", {2024, 1, 2, 3, 4, 5}},
-                     {"2024-01", {2024, 1, 0, 0, 0, 0}},
-                     {"", {}},
-                     {"x-1-y", {0, 1, 0, 0, 0, 0}},
-                     {"1-2-3-4-5-6-7", {1, 2, 3, 4, 5, 6}},
-                     {"1--3", {1, 0, 3, 0, 0, 0}}};
-  for (const auto& c : cases) {
-    const std::tm time = tovi::flat::parseDateTime(c.token);
-    const int fields[6] = {time.tm_year, time.tm_mon, time.tm_mday,
-                           time.tm_hour, time.tm_min, time.tm_sec};
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(fields[i], c.fields[i]) << c.token << " field " << i;
-  }
-}
-
-TEST(FlatGrammar, GroupsAndLeftovers) {
-  EXPECT_EQ(tovi::flat::parsePowerEntries("a b c").size(), 1u);
-  EXPECT_EQ(tovi::flat::parsePlayEntries("a b c d e f g").size(), 2u);
-  EXPECT_EQ(tovi::flat::parsePlayEntries("a  b").size(), 1u);  // the empty token between counts
-  EXPECT_EQ(tovi::flat::parseBrightnessEntries("a b").size(), 0u);
-  const BrightnessItem curve =
-      tovi::flat::parseCurve("1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18");
-  EXPECT_EQ(curve.points[0].environmentBrightness, 1);
-  EXPECT_EQ(curve.points[7].screenBrightness, 16);
 }
 
 }  // namespace

@@ -72,15 +72,23 @@ const Call kCalls[] = {
     {"getScreenStatus close", call(getScreenStatus), "BA", "BA 00", "close"},
     {"getScreenStatus silent", call(getScreenStatus), "BA", "", "failed"},
     {"setBrightness", call(setBrightness, 256), "07 02 7D", "08 01", "success"},
-    {"setBrightnessAuto", call(setBrightnessAuto, "10 20 30 40"),
-     "07 01 00 | 17 0A 14 00 1E 28 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",
+    {"setBrightnessAuto", call(setBrightnessAuto, "10 20 30"),
+     "07 01 00 | 17 0A 14 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",
+     "08 01 | 18 01", "success"},
+    {"setBrightnessAuto nine pairs",
+     call(setBrightnessAuto, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18"),
+     "07 01 00 | 17 01 02 00 03 04 00 05 06 00 07 08 00 09 0A 00 0B 0C 00 0D 0E 00 0F 10 00",
      "08 01 | 18 01", "success"},
     {"setAutoBrightnessTimeParam", call(setAutoBrightnessTimeParam, 5, 6), "AA 05 06", "AA 01",
      "success"},
     {"setDeviceVolume", call(setDeviceVolume, 200), "45 C8", "46 01", "success"},
+    // What is missing or no number is 0; of two blanks an empty token is between; the last is left
+    // over.
     {"setDevicePowerByTimeList",
-     call(setDevicePowerByTimeList, "2024-1-2-3-4-5 2025-12-31-23-59-58 x"),
-     "8A 01 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17", "8B 01", "success"},
+     call(setDevicePowerByTimeList, "2024-1-2-3-4-5 2025-12-31-23-59-58-7 2024-01 x-1-y 1--3  x"),
+     "8A 03 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17 00 01 E8 07 00 00 00 00 01 00 00 00 00 00 "
+     "03 00 01 00 00 00 00 00 00 00 00 00 00 00",
+     "8B 01", "success"},
     {"setPlayByTimeList seven tokens", call(setPlayByTimeList, "1-2-3-4-5-6 1-2-3-4-5-6 7 x y z 9"),
      "41 02 03 02 01 00 06 05 04 03 02 01 00 06 05 04 07 00 "
      "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",

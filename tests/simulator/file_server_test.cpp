@@ -42,19 +42,6 @@ TEST(FileServer, TakesACipheredFile) {
   EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
 }
 
-TEST(FileServer, DiscardsWhatAHostLeavesUnfinished) {
-  const test::TemporaryFolder folder;
-  Lines lines;
-  Options options;
-  options.files.folder = folder.path();
-  options.onLine = lines.sink();
-  Running simulator(std::move(options));
-  Host(simulator).ask(kName, kNameTaken);
-  EXPECT_TRUE(lines.waitFor("hung up inside a.txt, which is discarded"));
-  EXPECT_TRUE(std::filesystem::is_empty(folder.path("unfinished")));
-  Host(simulator).ask(kHello, "AA FF FF 14 01 00 00 CC 49 DD");
-}
-
 TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
   const test::TemporaryFolder folder;
   const auto list = literal("01 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17");
@@ -79,13 +66,19 @@ TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
   EXPECT_EQ(Controller({}, {folder.path()}).state().timetables, Timetables{});
 }
 
-TEST(FileServer, HasItsFolderAgainAfterARestart) {
+TEST(FileServer, HasItsFolderAgainButNothingThatAHostLeftUnfinished) {
   const test::TemporaryFolder folder;
+  Lines lines;
   Options options;
   options.files.folder = folder.path();
+  options.onLine = lines.sink();
   {
     Running simulator(options);
+    Host(simulator).ask(kName, kNameTaken);
+    EXPECT_TRUE(lines.waitFor("hung up inside a.txt, which is discarded"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path("unfinished")));
     Host host(simulator);
+    host.ask(kHello, "AA FF FF 14 01 00 00 CC 49 DD");
     host.ask(kName, kNameTaken);
     host.ask(kHello, kHelloStored);
   }
