@@ -4,7 +4,6 @@
 
 #include "cli/hosts.h"
 #include "cli/progress.h"
-#include "cli/reading.h"
 #include "cli/times.h"
 
 namespace tovi::cli {
@@ -22,27 +21,6 @@ TEST(Hosts, AreOneALineBesideComments) {
   EXPECT_EQ(all, "192.168.1.10:5005 roof.example:5006 192.168.1.12:5007 ");
   EXPECT_TRUE(parseHosts("").empty());
   EXPECT_TRUE(parseHosts("#192.168.1.10:5005").empty());
-}
-
-TEST(Hosts, TellTheLineThatIsWrong) {
-  try {
-    parseHosts("# two lines\n192.168.1.10:5005\n\n192.168.1.11\n");
-    FAIL();
-  } catch (const Unusable& error) {
-    EXPECT_EQ(std::string(error.what()).rfind("line 4: \"192.168.1.11\" is not ", 0), 0U)
-        << error.what();
-  }
-}
-
-TEST(Number, CountsEveryCharacter) {
-  EXPECT_EQ(numberWithin("0", 0, 255), 0);
-  EXPECT_EQ(numberWithin("255", 0, 255), 255);
-  EXPECT_EQ(numberWithin("2147483647", 0, 2147483647), 2147483647);
-  for (const char* text :
-       {"", "-1", "-0", "+1", " 1", "1 ", "1.5", "0x10", "256", "4294967296", "one"}) {
-    EXPECT_THROW(numberWithin(text, 0, 255), Unusable) << text;
-  }
-  EXPECT_THROW(numberWithin("59", 60, 65535), Unusable);
 }
 
 TEST(Time, IsATmInsideAndCalendarOutside) {

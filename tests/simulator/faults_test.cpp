@@ -32,69 +32,55 @@ constexpr Misbehaviour kMisbehaviours[] = {
     {"close-before", "none", "", End::Close},
     {"close-inside", "none", "AA FF FF 08", End::Close},
     {"close-after", "none", kAccepted, End::Close},
+    {"reset", "none", "", End::Reset},
 };
 
 TEST(SimFaults, ShowOnTheWireForAsLongAsTold) {
   for (const Misbehaviour& one : kMisbehaviours) {
     SCOPED_TRACE(one.fault);
     const bool plain = one.key == "none";
-    Simulator simulator(faulty({std::string(one.fault) + ":1"}, one.key));
-    ASSERT_TRUE(simulator.start());
-    Host host(simulator.port());
-    host.send(plain ? kSetBrightness : kSetBrightnessSm4);
-    host.expect(one.bytes);
+    Running simulator(faulty({std::string(one.fault) + ":1"}, one.key));
+    Host host(simulator);
+    host.ask(plain ? kSetBrightness : kSetBrightnessSm4, one.bytes);
     const bool stays = one.end == End::Stay;
     if (!stays) {
       EXPECT_EQ(host.end(), one.end);
     }
 
-    Host another(simulator.port());
+    Host another(simulator);
     Host& next = stays ? host : another;
-    next.send("AA FF FF EF 0C 01 CC 5E C1");
-    next.expect(plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
+    next.ask("AA FF FF EF 0C 01 CC 5E C1",
+             plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
   }
-}
-
-TEST(SimFaults, ResetTheConnection) {
-  Simulator simulator(faulty({"reset"}));
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  host.send(kSetBrightness);
-  EXPECT_EQ(host.end(), End::Reset);
 }
 
 TEST(SimFaults, LeaveWhatFollowsUnheard) {
   // Nothing is heard from a peer that has been hung up on...
-  Simulator closing(faulty({"close-before"}));
-  ASSERT_TRUE(closing.start());
-  Host chatty(closing.port());
+  Running closing(faulty({"close-before"}));
+  Host chatty(closing);
   chatty.send("AA FF FF A9 CC 42 E1 AA FF FF 45 07 CC 97 EF");
   EXPECT_EQ(chatty.end(), End::Close);
   EXPECT_EQ(closing.exchanges(), 1U);
 
   // ... nor, until it has its answer, from one that asks again meanwhile.
-  Simulator late(faulty({"late-reply=600000:1"}));
-  ASSERT_TRUE(late.start());
-  Host impatient(late.port());
+  Running late(faulty({"late-reply=600000:1"}));
+  Host impatient(late);
   impatient.send(kGetVolume);
   ASSERT_TRUE(late.waitForExchanges(1, kLong));
   impatient.send(kGetVolume);
-  Host other(late.port());
-  other.send(kGetVolume);
-  other.expect(kVolume50);
+  Host other(late);
+  other.ask(kGetVolume, kVolume50);
   EXPECT_EQ(late.exchanges(), 2U);
 }
 
 TEST(SimFaults, TakeTurnsAndSpareWhatHasNoReply) {
-  Simulator simulator(faulty({"no-reply:2", "refuse"}));
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
+  Running simulator(faulty({"no-reply:2", "refuse"}));
+  Host host(simulator);
   host.send("AA FF FF A9 CC 42 E1 AA FF FF 00 00 CC 54 9D AA FF FF 45 07 CC 97 EF");
   ASSERT_TRUE(simulator.waitForExchanges(3, kLong));
   EXPECT_EQ(simulator.state().volume, 7);  // done, though not answered
   for (int i = 0; i < 2; ++i) {
-    host.send(kSetBrightness);
-    host.expect("AA FF FF 08 00 CC 96 5B");
+    host.ask(kSetBrightness, "AA FF FF 08 00 CC 96 5B");
   }
 }
 

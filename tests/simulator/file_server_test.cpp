@@ -19,68 +19,27 @@ constexpr std::string_view kNames =
     "AA FF FF B0 01 5B 22 61 2E 74 78 74 22 5D 00 CC E3 A0";  // ["a.txt"]
 
 TEST(FileServer, TakesAFile) {
-  Simulator simulator({});
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  host.send(kName);
-  host.expect(kNameTaken);
+  Running simulator;
+  Host host(simulator);
+  host.ask(kName, kNameTaken);
   host.send("AA FF FF 13 02 00 68 65 6C 6C 6F CC 1C A5");  // chunk 2 before chunk 1
   host.receive(10);
-  host.send(kHello);
-  host.expect(kHelloStored);
-  host.send("AA FF FF 13 02 00 CC 82 28");  // the end once more
-  host.expect("AA FF FF 14 02 00 01 CC 5C E1 AA FF FF F9 01 CC A6 94");
-  host.send(kGetNames);
-  host.expect(kNames);
+  host.ask(kHello, kHelloStored);
+  host.ask("AA FF FF 13 02 00 CC 82 28",
+           "AA FF FF 14 02 00 01 CC 5C E1 AA FF FF F9 01 CC A6 94");  // the end once more
+  host.ask(kGetNames, kNames);
   EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
 }
 
 TEST(FileServer, TakesACipheredFile) {
-  Options options;
-  options.key = parseKey("des:12345678").value();
-  Simulator simulator(std::move(options));
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  host.send("AA FF FF 11 06 B3 5E 0C CF B1 4A 2C CC 9C 66");
-  host.expect("AA FF FF 12 DE EC BA 37 86 7B D1 42 CC 94 B0");
-  host.send("AA FF FF 13 E1 11 98 A4 9F 77 74 55 CC C4 78");
-  host.expect(
-      "AA FF FF 14 D3 04 69 8A 15 25 BF F1 CC 07 96 "
-      "AA FF FF F9 DE EC BA 37 86 7B D1 42 CC EC F2");
+  Running simulator(keyed("des:12345678"));
+  Host host(simulator);
+  host.ask("AA FF FF 11 06 B3 5E 0C CF B1 4A 2C CC 9C 66",
+           "AA FF FF 12 DE EC BA 37 86 7B D1 42 CC 94 B0");
+  host.ask("AA FF FF 13 E1 11 98 A4 9F 77 74 55 CC C4 78",
+           "AA FF FF 14 D3 04 69 8A 15 25 BF F1 CC 07 96 "
+           "AA FF FF F9 DE EC BA 37 86 7B D1 42 CC EC F2");
   EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
-}
-
-TEST(FileServer, KeepsTransfersOfTwoHostsApart) {
-  Simulator simulator({});
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  Host other(simulator.port());
-  host.send(kName);
-  host.expect(kNameTaken);
-  other.send(kHello);
-  other.expect("AA FF FF 14 01 00 00 CC 49 DD");
-  host.send(kHello);
-  host.expect(kHelloStored);
-}
-
-TEST(FileServer, DiscardsWhatAHostLeavesUnfinished) {
-  const test::TemporaryFolder folder;
-  Lines lines;
-  Options options;
-  options.files.folder = folder.path();
-  options.onLine = lines.sink();
-  Simulator simulator(std::move(options));
-  ASSERT_TRUE(simulator.start()) << simulator.error();
-  {
-    Host host(simulator.port());
-    host.send(kName);
-    host.expect(kNameTaken);
-  }
-  EXPECT_TRUE(lines.waitFor("hung up inside a.txt, which is discarded"));
-  EXPECT_TRUE(std::filesystem::is_empty(folder.path("unfinished")));
-  Host host(simulator.port());
-  host.send(kHello);
-  host.expect("AA FF FF 14 01 00 00 CC 49 DD");
 }
 
 TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
@@ -92,42 +51,42 @@ TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
     EXPECT_EQ(controller.handle({0x8A, literal("01 00")}).told, "refused");
     EXPECT_EQ(controller.handle({0x41, literal("00")}).told, "accepted");
     EXPECT_EQ(controller.handle({0xAA, literal("05 FE")}).told, "accepted");
+    EXPECT_EQ(controller.handle({0xDC, literal("74")}).told, "accepted");
+    EXPECT_EQ(controller.handle({0xDE, literal("01")}).told, "accepted");
     std::filesystem::create_directories(folder.path("schedules/files/setBrightnessAuto/occupied"));
     EXPECT_EQ(controller.handle({0x17, Bytes(24, 7)}).told, "refused") << "it cannot be kept";
     EXPECT_EQ(controller.state().timetables.brightnessCurve, Bytes(24, 0));
   }
   const Timetables kept = Controller({}, {folder.path()}).state().timetables;
   EXPECT_EQ(kept.power, list);
+  EXPECT_EQ(kept.advance, "") << "it was removed";
   EXPECT_EQ(kept.automaticTimes, (std::array<std::uint8_t, 2>{5, 0xFE}));
   std::filesystem::remove(folder.path("schedules/files/setAutoBrightnessTimeParam"));
   std::ofstream(folder.path("schedules/files/setDevicePowerByTimeList")) << "damaged";
   EXPECT_EQ(Controller({}, {folder.path()}).state().timetables, Timetables{});
 }
 
-TEST(FileServer, HasItsFolderAgainAfterARestart) {
+TEST(FileServer, HasItsFolderAgainButNothingThatAHostLeftUnfinished) {
   const test::TemporaryFolder folder;
+  Lines lines;
   Options options;
   options.files.folder = folder.path();
+  options.onLine = lines.sink();
   {
-    Simulator simulator(options);
-    ASSERT_TRUE(simulator.start());
-    Host host(simulator.port());
-    host.send(kName);
-    host.expect(kNameTaken);
-    host.send(kHello);
-    host.expect(kHelloStored);
+    Running simulator(options);
+    Host(simulator).ask(kName, kNameTaken);
+    EXPECT_TRUE(lines.waitFor("hung up inside a.txt, which is discarded"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path("unfinished")));
+    Host host(simulator);
+    host.ask(kHello, "AA FF FF 14 01 00 00 CC 49 DD");
+    host.ask(kName, kNameTaken);
+    host.ask(kHello, kHelloStored);
   }
   EXPECT_EQ(folder.content("files/a.txt"), "hello");
-  Simulator simulator(options);
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  host.send(kGetNames);
-  host.expect(kNames);
+  Host(Running(options)).ask(kGetNames, kNames);
 
   options.files.folder = folder.path("files/a.txt");
-  Simulator nowhere(options);
-  EXPECT_FALSE(nowhere.start());
-  EXPECT_EQ(nowhere.error().rfind("cannot use the folder", 0), 0U);
+  EXPECT_TRUE(whyNot(options).starts_with("cannot use the folder"));
 }
 
 // What the host hears of a file of one chunk, and whether the file is there afterwards.
@@ -139,36 +98,29 @@ struct Spoilt {
   bool stored;
 };
 
+constexpr std::string_view kChunkTaken = "AA FF FF 14 01 00 01 CC 91 C4";
+constexpr std::string_view kChunkRefused = "AA FF FF 14 01 00 00 CC 49 DD";
 constexpr Spoilt kSpoilt[] = {
-    {"refuse@sendFileName", "AA FF FF 12 00 CC 79 AD", "AA FF FF 14 01 00 00 CC 49 DD", End::Stay,
-     false},
-    {"refuse@sendFileContent", kNameTaken, "AA FF FF 14 01 00 00 CC 49 DD", End::Stay, false},
+    {"refuse@sendFileName", "AA FF FF 12 00 CC 79 AD", kChunkRefused, End::Stay, false},
+    {"refuse@sendFileContent", kNameTaken, kChunkRefused, End::Stay, false},
     {"refuse@sendFileContent#2", kNameTaken, kHelloStored, End::Stay, true},
     {"refuse@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4 AA FF FF F9 00 CC 7E 8D",
      End::Stay, false},
-    {"no-reply@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Stay, true},
+    {"no-reply@recvFileOverRsp", kNameTaken, kChunkTaken, End::Stay, true},
     {"no-reply@sendFileContent", kNameTaken, "AA FF FF F9 01 CC A6 94", End::Stay, true},
-    {"close-before@recvFileOverRsp", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Close, true},
-    {"close-after@sendFileContent", kNameTaken, "AA FF FF 14 01 00 01 CC 91 C4", End::Close, false},
-    {"two-replies@recvFileOverRsp", kNameTaken,
-     "AA FF FF 14 01 00 01 CC 91 C4 AA FF FF F9 01 CC A6 94 AA FF FF F9 01 CC A6 94", End::Stay,
-     true},
-    {"refuse@setBrightness", kNameTaken, kHelloStored, End::Stay, true},
+    {"close-before@recvFileOverRsp", kNameTaken, kChunkTaken, End::Close, true},
+    {"close-after@sendFileContent", kNameTaken, kChunkTaken, End::Close, false},
 };
 
 TEST(FileServer, FaultsStrikeTheStepTheyName) {
   for (const Spoilt& one : kSpoilt) {
     SCOPED_TRACE(one.fault);
-    Simulator simulator(faulty({one.fault}));
-    ASSERT_TRUE(simulator.start());
-    Host host(simulator.port());
-    host.send(kName);
-    host.expect(one.toName);
-    host.send(kHello);
-    host.expect(one.toChunk);
+    Running simulator(faulty({one.fault}));
+    Host host(simulator);
+    host.ask(kName, one.toName);
+    host.ask(kHello, one.toChunk);
     if (one.end == End::Stay) {
-      host.send("AA FF FF EF 0C 01 CC 5E C1");
-      host.expect("AA FF FF EF 0C 01 00 CC 50 D4");
+      host.ask("AA FF FF EF 0C 01 CC 5E C1", "AA FF FF EF 0C 01 00 CC 50 D4");
     } else {
       EXPECT_EQ(host.end(), one.end);
     }
@@ -177,22 +129,17 @@ TEST(FileServer, FaultsStrikeTheStepTheyName) {
 }
 
 TEST(KeyChange, TakesHoldWithTheNextRequest) {
-  Simulator simulator({});
-  ASSERT_TRUE(simulator.start());
-  Host host(simulator.port());
-  host.send("AA FF FF 70 01 01 6C 91 21 31 32 33 34 35 36 37 38 CC D1 49");  // des:12345678
-  host.expect("AA FF FF 71 01 CC 88 5E");
-  host.send("AA FF FF A9 CC 42 E1");
-  host.expect("AA FF FF A9 B9 9F 50 3F 02 23 61 E8 CC 05 2E");
+  Running simulator;
+  Host host(simulator);
+  host.ask("AA FF FF 70 01 01 6C 91 21 31 32 33 34 35 36 37 38 CC D1 49",
+           "AA FF FF 71 01 CC 88 5E");  // des:12345678
+  host.ask(kGetVolume, "AA FF FF A9 B9 9F 50 3F 02 23 61 E8 CC 05 2E");
   // abcdefgh in its place; the answer is still under the former key.
-  host.send("AA FF FF EF 46 D5 DA DA 5B 37 DE B1 AE 9C 9F 1D 98 10 13 83 CC 5C 3F");
-  host.expect("AA FF FF EF 1E 9F 1B B1 29 28 F7 94 CC 88 21");
-  host.send("AA FF FF A9 CC 42 E1");
-  host.expect("AA FF FF A9 0B 39 A2 21 76 CE 99 FB CC 37 30");
-  host.send("AA FF FF 70 00 00 6C 91 21 CC 09 17");
-  host.expect("AA FF FF 71 01 CC 88 5E");
-  host.send("AA FF FF A9 CC 42 E1");
-  host.expect("AA FF FF A9 32 CC 8F 8B");
+  host.ask("AA FF FF EF 46 D5 DA DA 5B 37 DE B1 AE 9C 9F 1D 98 10 13 83 CC 5C 3F",
+           "AA FF FF EF 1E 9F 1B B1 29 28 F7 94 CC 88 21");
+  host.ask(kGetVolume, "AA FF FF A9 0B 39 A2 21 76 CE 99 FB CC 37 30");
+  host.ask("AA FF FF 70 00 00 6C 91 21 CC 09 17", "AA FF FF 71 01 CC 88 5E");
+  host.ask(kGetVolume, kVolume50);
 }
 
 }  // namespace

@@ -15,41 +15,32 @@ TEST_F(FilesTest, AFileOfOneChunkIsStored) {
   EXPECT_EQ(content("a.txt"), "none");  // not before its end
   EXPECT_EQ(end(), "01");
   EXPECT_EQ(content("a.txt"), "hello");
-  EXPECT_EQ(end(), "");
+  EXPECT_FALSE(mController.hasWholeFile(mSession));
 }
 
 TEST_F(FilesTest, AChunkThatIsNotFullEndsTheFile) {
   EXPECT_EQ(name("full"), "12: 01");
   EXPECT_EQ(chunk(1, kFull, 'a'), "14: 01 00 01");
-  EXPECT_EQ(end(), "");
   EXPECT_EQ(chunk(2, kFull, 'b'), "14: 02 00 01");
-  EXPECT_EQ(end(), "");
-  EXPECT_EQ(chunk(3, 0), "14: 03 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(3, 0), "14: 03 00 01 | F9: 01");
   EXPECT_EQ(content("full"), std::string(kFull, 'a') + std::string(kFull, 'b'));
 
   EXPECT_EQ(name("empty"), "12: 01");
-  EXPECT_EQ(chunk(1, 0), "14: 01 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(1, 0), "14: 01 00 01 | F9: 01");
   EXPECT_EQ(content("empty"), "");
 
   mController.change([](State& state) { state.security.key = {Cipher::Des, "12345678"}; });
   EXPECT_EQ(name("ciphered"), "12: 01");
   EXPECT_EQ(chunk(1, kFullCiphered), "14: 01 00 01");
-  EXPECT_EQ(end(), "");
-  EXPECT_EQ(chunk(2, kFullCiphered - 1), "14: 02 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(2, kFullCiphered - 1), "14: 02 00 01 | F9: 01");
 }
 
 TEST_F(FilesTest, ASecondEndIsAcknowledgedAndConfirmedAgain) {
   name("a");
   chunk(1, kFull);
-  EXPECT_EQ(chunk(2, 0), "14: 02 00 01");
-  EXPECT_EQ(end(), "01");
-  EXPECT_EQ(chunk(3, 0), "14: 03 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(2, 0), "14: 02 00 01 | F9: 01");
+  EXPECT_EQ(chunk(3, 0), "14: 03 00 01 | F9: 01");
   EXPECT_EQ(chunk(4, 1), "14: 04 00 00");  // but nothing is added
-  EXPECT_EQ(end(), "");
   EXPECT_EQ(content("a").size(), kFull);
 }
 
@@ -65,8 +56,7 @@ TEST_F(FilesTest, ChunksAreTakenInOrderAlone) {
   EXPECT_EQ(chunk(0x0102, 1), "14: 02 01 00");
   mSession.upload->next = 0xFFFF;  // after 4 GB
   EXPECT_EQ(chunk(0xFFFF, kFull), "14: FF FF 01");
-  EXPECT_EQ(chunk(0, 1), "14: 00 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(0, 1), "14: 00 00 01 | F9: 01");
   EXPECT_EQ(content("a").size(), 2 * kFull + 1);
 }
 
@@ -96,12 +86,11 @@ TEST_F(FilesTest, WhatIsNotFinishedIsDiscarded) {
   mSession = {};  // the connection ends
   EXPECT_EQ(mController.files().used(), 0U);
   name("c");
-  chunk(1, 1);
+  ask(0x13, "01 00 61");
   EXPECT_EQ(hex(mController.refuseFile(mSession).replies.at(0).payload), "00");
   EXPECT_EQ(mController.files().used(), 0U);
   EXPECT_TRUE(mController.files().names().empty());
-  EXPECT_EQ(chunk(2, 0), "14: 02 00 01");  // refused once more
-  EXPECT_EQ(end(), "00");
+  EXPECT_EQ(chunk(2, 0), "14: 02 00 01 | F9: 00");  // refused once more
 }
 
 class SmallStorage : public Uploads {
@@ -116,8 +105,7 @@ TEST_F(SmallStorage, RefusesWhatDoesNotFit) {
   EXPECT_EQ(mController.files().used(), 0U);
   EXPECT_EQ(chunk(2, 0), "14: 02 00 00");  // it is lost
   name("b");
-  EXPECT_EQ(chunk(1, 1000), "14: 01 00 01");
-  EXPECT_EQ(end(), "01");
+  EXPECT_EQ(chunk(1, 1000), "14: 01 00 01 | F9: 01");
   EXPECT_EQ(ask(0x47), "48: 61 00 00 00 60 00 00 00");
 }
 
@@ -133,7 +121,9 @@ TEST_F(FilesTest, AreToldApartByListsAndCleanUp) {
   EXPECT_EQ(ask(0xB9, "03"), "B9: 00");
 
   EXPECT_EQ(ask(0x7C, "04"), "7D: 00");
+  ask(0x88, "01 03 61");
   EXPECT_EQ(ask(0x7C, "03"), "7D: 01");  // updates
+  EXPECT_EQ(ask(0x88, "00 03"), "89: 00");
   EXPECT_EQ(ask(0x7C, "01"), "7D: 01");
   EXPECT_EQ(ask(0xB0), "B0: 01 " + words("[]") + " 00");
   EXPECT_EQ(ask(0xA7), "A7: 05");

@@ -41,12 +41,27 @@ inline Options faulty(std::initializer_list<std::string_view> faults,
   return options;
 }
 
+// Why a simulator does not start.
+inline std::string whyNot(const Options& options) {
+  Simulator simulator(options);
+  EXPECT_FALSE(simulator.start());
+  return simulator.error();
+}
+
+// A simulator that has been started.
+class Running : public Simulator {
+ public:
+  explicit Running(Options options = {}) : Simulator(std::move(options)) {
+    EXPECT_TRUE(start()) << error();
+  }
+};
+
 // A host of the crudest kind: one connection, bytes in and out.
 class Host {
  public:
   explicit Host(platform::Socket socket) : mSocket(socket) {}
-  explicit Host(std::uint16_t port) : mSocket(platform::openSocket()) {
-    EXPECT_TRUE(platform::connectSocket(mSocket, "127.0.0.1", port, kLongMs));
+  explicit Host(const Simulator& simulator) : mSocket(platform::openSocket()) {
+    EXPECT_TRUE(platform::connectSocket(mSocket, "127.0.0.1", simulator.port(), kLongMs));
   }
   ~Host() { platform::closeSocket(mSocket); }
   Host(const Host&) = delete;
@@ -71,6 +86,11 @@ class Host {
   }
 
   void expect(std::string_view bytes) { EXPECT_EQ(receive(literal(bytes).size()), bytes); }
+
+  void ask(std::string_view request, std::string_view reply) {
+    send(request);
+    expect(reply);
+  }
 
   // How the connection ends once everything has been received.
   End end() {

@@ -104,27 +104,19 @@ TEST(StorageFolder, IsTakenUpAgainWithoutWhatWasNotFinished) {
   EXPECT_TRUE(std::filesystem::exists(path / "unfinished" / "mine.txt"));
 }
 
-TEST(StorageFolder, ThatCannotBeOneIsAnError) {
+TEST(StorageFolder, IsAnErrorOrHasNoRoomWhereItCannotBe) {
   const TemporaryFolder folder;
-  const Storage storage({folder.file("a file")});
-  EXPECT_EQ(storage.error().rfind("cannot use the folder " + folder.path("a.bin"), 0), 0U);
-}
+  const Storage nowhere({folder.file("a file")});
+  EXPECT_EQ(nowhere.error().rfind("cannot use the folder " + folder.path("a.bin"), 0), 0U);
 
-TEST(StorageFolder, ThatIsGoneIsNoRoom) {
-  const TemporaryFolder folder;
-  Storage storage({folder.path("state")});
-  std::filesystem::remove_all(folder.path("state"));
-  EXPECT_EQ(storage.begin("b"), nullptr);
-  EXPECT_TRUE(storage.names().empty());
-}
-
-TEST(StorageFolder, WhoseNameIsTakenIsNoRoom) {
-  const TemporaryFolder folder;
   Storage storage({folder.path("state")});
   const auto file = storage.begin("a");
   file->append(bytesOf("x"));
   std::filesystem::create_directories(folder.path("state") + "/files/a/occupied");
   EXPECT_FALSE(file->keep());
+  std::filesystem::remove_all(folder.path("state"));
+  EXPECT_EQ(storage.begin("b"), nullptr);
+  EXPECT_TRUE(storage.names().empty());
 }
 
 }  // namespace

@@ -16,11 +16,13 @@ class Uploads : public testing::Test, protected AskedController {
 
   std::string name(std::string_view name) { return ask(0x11, "FF FF " + words(name)); }
 
+  // The replies; after the last chunk of a file the controller's word on it, too.
   std::string chunk(std::uint16_t number, std::size_t size, std::uint8_t fill = 'x') {
     Bytes payload(2 + size, fill);
     payload[0] = static_cast<std::uint8_t>(number & 0xFF);
     payload[1] = static_cast<std::uint8_t>(number >> 8);
-    return ask(0x13, payload);
+    const std::string taken = ask(0x13, payload);
+    return taken + (mController.hasWholeFile(mSession) ? " | F9: " + end() : "");
   }
 
   // A file of one chunk, to its end.
@@ -30,12 +32,7 @@ class Uploads : public testing::Test, protected AskedController {
     ASSERT_EQ(end(), "01");
   }
 
-  // The controller's word on the file; empty when it does not see the end of one.
-  std::string end() {
-    if (!mController.hasWholeFile(mSession)) return "";
-    const Answer answer = mController.confirmFile(mSession);
-    return hex(answer.replies.at(0).payload);
-  }
+  std::string end() { return hex(mController.confirmFile(mSession).replies.at(0).payload); }
 
   std::string content(const std::string& name) {
     return textOf(mController.files().read(name).value_or(bytesOf("none")));

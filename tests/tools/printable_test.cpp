@@ -13,11 +13,12 @@ TEST(Printable, KeepsStrangersOffTheTerminal) {
       {"\x1B[2J\x1B]0;title\x07", "\\x1B[2J\\x1B]0;title\\x07"},
       {std::string("\r\0\x7F", 3), "\\x0D\\x00\\x7F"},
       {"\xC2\x9B"
-       "31m",
-       "\\xC2\\x9B31m"},                                      // a control character in UTF-8
+       "31m\xC2\x9F",
+       "\\xC2\\x9B31m\\xC2\\x9F"},                            // control characters in UTF-8
       {"\xC3\xFB\xB5", "\\xC3\\xFB\\xB5"},                    // another encoding
       {"\xE8\xB7", "\\xE8\\xB7"},                             // cut
       {"\xC0\x8A\xE0\x80\x8A", "\\xC0\\x8A\\xE0\\x80\\x8A"},  // a line feed the long way round
+      {"\xF0\x8F\xBF\xBF", "\\xF0\\x8F\\xBF\\xBF"},
       {"\xED\xA0\x80\xF4\x90\x80\x80", "\\xED\\xA0\\x80\\xF4\\x90\\x80\\x80"},
   };
   for (const auto& [text, shown] : texts) {

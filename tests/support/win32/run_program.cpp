@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/paths.h"
 
 namespace tovi::test {
@@ -41,11 +44,15 @@ int runProgram(const std::string& program, const std::vector<std::string>& words
   start.hStdInput = open(streams.in.empty() ? "NUL" : streams.in, GENERIC_READ, OPEN_EXISTING);
   start.hStdOutput = open(streams.out, GENERIC_WRITE, CREATE_ALWAYS);
   start.hStdError = open(streams.err, GENERIC_WRITE, CREATE_ALWAYS);
+  const HANDLE handles[] = {start.hStdInput, start.hStdOutput, start.hStdError};
+  // With a stream that is none the program would run all the same, and what it says be lost.
+  const bool usable = std::none_of(std::begin(handles), std::end(handles),
+                                   [](HANDLE handle) { return handle == INVALID_HANDLE_VALUE; });
   PROCESS_INFORMATION child{};
-  const BOOL started = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                        nullptr, &start, &child);
-  for (const HANDLE handle : {start.hStdInput, start.hStdOutput, start.hStdError}) {
-    ::CloseHandle(handle);
+  const bool started = usable && ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0,
+                                                  nullptr, nullptr, &start, &child) != FALSE;
+  for (const HANDLE handle : handles) {
+    if (handle != INVALID_HANDLE_VALUE) ::CloseHandle(handle);
   }
   if (!started) return -1;
   ::WaitForSingleObject(child.hProcess, INFINITE);
