@@ -58,7 +58,7 @@ TEST_F(LogTest, EachLevelHasItsLimit) {
 }
 
 TEST_F(LogTest, LongMessagesAreCutToTheBuffer) {
-  for (const std::size_t length : {1023u, 1024u, 65534u, 65535u, 200000u}) {
+  for (const std::size_t length : {1023u, 1024u, 2030u, 65534u, 65535u, 200000u}) {
     fake().files.clear();
     tovi_info("%s", std::string(length, 'x').c_str());
     const std::size_t kept = std::min<std::size_t>(length, 65534);
@@ -88,8 +88,12 @@ TEST_F(LogTest, TheHostMayMoveTheFolder) {
   tovi_set_log_folder("/elsewhere");
   tovi_info("moved");
   EXPECT_EQ(fake().files.count("/elsewhere/tovisdk_2024-01-05.txt"), 1u);
-  tovi_set_log_folder(std::string(2000, 'x').c_str());
+  const std::string longest(1000, 'x');
+  tovi_set_log_folder((longest + "x").c_str());
   EXPECT_TRUE(fake().logged("error tovi_set_log_folder folder is longer than 1000 bytes"));
+  tovi_set_log_folder(longest.c_str());
+  tovi_info("far");
+  EXPECT_EQ(fake().files.count(longest + "/tovisdk_2024-01-05.txt"), 1u);
   tovi_set_log_folder("");
   tovi_info("back");
   EXPECT_EQ(fake().files.count(kFile), 1u);
