@@ -133,8 +133,9 @@ TEST(JsonObject, ParsingAnewForgetsTheChildren) {
   EXPECT_TRUE(object.parseText("[7]"));
   EXPECT_EQ(object.member("a").toText(), "");
   EXPECT_EQ(object.element(0).toText(), "7");
+  EXPECT_TRUE(object.element(1).addInt("of its own", 1));
   object.clear();
-  EXPECT_EQ(object.element(0).toText(), "");
+  EXPECT_EQ(object.element(1).toText(), "");
   EXPECT_TRUE(object.addInt("b", 1));
   EXPECT_EQ(object.toText(), "{\"b\":1}");
 }

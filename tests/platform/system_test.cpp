@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "loopback.h"
@@ -72,27 +71,6 @@ TEST_F(Files, AreMeasuredAndReplaceOneAnother) {
   EXPECT_TRUE(endsWithSeparator((in("") + kPathSeparator).c_str()));
   EXPECT_FALSE(endsWithSeparator(in("log").c_str()));
   EXPECT_FALSE(endsWithSeparator(""));
-}
-
-TEST_F(Files, KeepRecordsOfManyThreadsWhole) {
-  constexpr std::size_t kThreads = 6;
-  constexpr std::size_t kRecords = 60;
-  constexpr std::size_t kLength = 9000;
-  std::vector<std::thread> writers;
-  for (std::size_t i = 0; i < kThreads; ++i) {
-    writers.emplace_back([this, letter = static_cast<char>('a' + i)] {
-      const std::string record = std::string(kLength, letter) + "\n";
-      for (std::size_t j = 0; j < kRecords; ++j) EXPECT_TRUE(appendText(in("log").c_str(), record));
-    });
-  }
-  for (std::thread& writer : writers) writer.join();
-
-  std::vector<std::size_t> seen(kThreads);
-  for (const std::string& line : linesOf(in("log"))) {
-    ASSERT_EQ(line, std::string(kLength, line[0]));
-    ++seen.at(static_cast<std::size_t>(line[0] - 'a'));
-  }
-  EXPECT_EQ(seen, std::vector<std::size_t>(kThreads, kRecords));
 }
 
 TEST(System, PausesAtLeastThatLong) {

@@ -78,17 +78,14 @@ TEST_F(Connection, AServerKeepsItsSocketOpen) {
                  "info ToviTraffic::~ToviTraffic start", "info ToviTraffic::~ToviTraffic end"}));
 }
 
-TEST_F(Connection, AnInvalidServerSocketIsNoConnection) {
-  ToviTraffic traffic(kInvalid);
-  EXPECT_EQ(access::getSocket(traffic), 0u);
-  EXPECT_TRUE(fake().logged("error ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null"));
-  EXPECT_EQ(traffic.setPower(true), -14);
-}
-
-TEST_F(Connection, AnAdoptedSocketMayBeChanged) {
+TEST_F(Connection, TheSocketOfAServerMayBeChangedAndInvalid) {
   ToviTraffic traffic("127.0.0.1", 5005);
   access::setSocket(traffic, 9);
   EXPECT_EQ(access::getSocket(traffic), 9u);
+  access::setSocket(traffic, kInvalid);
+  EXPECT_EQ(access::getSocket(traffic), 0u);
+  EXPECT_TRUE(fake().logged("error ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null"));
+  EXPECT_EQ(traffic.setPower(true), -14);
 }
 
 TEST_F(Connection, OnlyAddressesThatFitAreTaken) {

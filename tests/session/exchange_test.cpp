@@ -196,6 +196,15 @@ TEST_F(ExchangeTest, AQueryToAControllerThatClosesIsNull) {
   expectNothingLeft();
 }
 
+// A line for each: hosts know it.
+TEST_F(ExchangeTest, TheReleaseOfAReplyIsTold) {
+  testing::internal::CaptureStdout();
+  fake().arrive(hex("AA FF FF A9 32 CC 8F 8B"));
+  EXPECT_EQ(mTraffic.getVolumeValue(), 0x32);
+  mTraffic.getVolumeValue();
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "SocketResult delete\n");
+}
+
 TEST_F(ExchangeTest, AQueryOnAHeldConnectionLeavesItOpen) {
   fake().arrive(hex("AA FF FF 24 56 31 2E 32 CC 67 F4"));
   const auto result = access::getDataOn(42, mTraffic, 0x23, 0x24);
@@ -299,15 +308,12 @@ TEST_F(ExchangeTest, TextsMayBeAsLongAsTheirCommandAllows) {
   const struct {
     int (ToviTraffic::*set)(const std::string&);
     std::size_t least, most;
-  } cases[] = {{&ToviTraffic::removeAppPageName, 1, 256},
-               {&ToviTraffic::sendFtpDownloadaddress, 1, 1024},
-               {&ToviTraffic::updateFileName, 1, 1024},
-               {&ToviTraffic::connectWifi, 0, 1024},
-               {&ToviTraffic::setFont, 0, 1024},
-               {&ToviTraffic::setWifiApConfig, 0, 1024},
-               {&ToviTraffic::setSensorInfo, 0, 4096},
-               {&ToviTraffic::setLoraInfo, 0, 4096},
-               {&ToviTraffic::setAdvanceTiming, 0, 4096}};
+  } cases[] = {
+      {&ToviTraffic::removeAppPageName, 1, 256}, {&ToviTraffic::sendFtpDownloadaddress, 1, 1024},
+      {&ToviTraffic::updateFileName, 1, 1024},   {&ToviTraffic::connectWifi, 0, 1024},
+      {&ToviTraffic::setFont, 0, 1024},          {&ToviTraffic::setWifiApConfig, 0, 1024},
+      {&ToviTraffic::setSensorInfo, 0, 4096},    {&ToviTraffic::setLoraInfo, 0, 4096},
+      {&ToviTraffic::setAdvanceTiming, 0, 4096}};
   for (const auto& [set, least, most] : cases) {
     EXPECT_EQ((mTraffic.*set)(std::string(least, 'x')), -11) << most;
     EXPECT_EQ((mTraffic.*set)(std::string(most, 'x')), -11) << most;
