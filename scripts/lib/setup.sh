@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 TOOL_PACKAGES=(g++ ccache cmake ninja-build libssl-dev libcli11-dev nlohmann-json3-dev)
-TEST_PACKAGES=(libgtest-dev locales python3 mono-mcs libmono-i18n-cjk4.0-cil)
+TEST_PACKAGES=(libgtest-dev python3 mono-mcs libmono-i18n-cjk4.0-cil)
 CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev pkg-config dpkg-dev file)
 
 install_missing() {
@@ -33,12 +33,9 @@ if [[ -n ${TOVISDK_CACHE:-} ]]; then
   export CCACHE_DIR=${CCACHE_DIR:-$TOVISDK_CACHE/ccache}
 fi
 
-# Locales of our own, for tests that want a Chinese one: few systems have it.
+# A Chinese locale of our own, from which Wine takes its code page: few systems have one.
 use_test_locales() {
-  local codeset
   export LOCPATH=$PWD/build/locales
   mkdir -p "$LOCPATH"
-  for codeset in GBK UTF-8; do
-    [[ -d $LOCPATH/zh_CN.$codeset ]] || localedef -i zh_CN -f "$codeset" "$LOCPATH/zh_CN.$codeset"
-  done
+  [[ -d $LOCPATH/zh_CN.UTF-8 ]] || localedef -i zh_CN -f UTF-8 "$LOCPATH/zh_CN.UTF-8"
 }

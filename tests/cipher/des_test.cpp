@@ -3,35 +3,32 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "tests/support/hex.h"
+
 namespace tovi::cipher {
 namespace {
+
+using tovi::test::hex;
 
 constexpr char kKey[] = "12345678";
 constexpr char kText[] = "The quick brown fox jumps over a dog";
 constexpr char kCiphered[] =
     "a362a7a411b0df0f105c178d146401f092ac4c43a15e6f5dfc0e761a0940afce64d8a4f62deba126";
 
-std::string unhex(const std::string& hex) {
-  std::string bytes;
-  for (std::size_t i = 0; i < hex.size(); i += 2) {
-    bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-  }
-  return bytes;
-}
-
 struct Result {
   int value;
   std::string out;
 };
 
-// Deciphers into a buffer of exactly the input's size, which ends before guard bytes.
+// Deciphers what ends its heap block into a buffer of exactly that size, which ends before guard
+// bytes.
 Result decrypt(std::string_view ciphered, std::string_view key) {
-  std::vector<char> out(ciphered.size() + 8, '#');
-  const int value = desDecrypt(ciphered, key, std::span(out).first(ciphered.size()));
+  const std::vector<char> in(ciphered.begin(), ciphered.end());
+  std::vector<char> out(in.size() + 8, '#');
+  const int value = desDecrypt({in.data(), in.size()}, key, std::span(out).first(in.size()));
   EXPECT_EQ(std::string(out.end() - 8, out.end()), "########");
   return {value, {out.data(), ciphered.size()}};
 }
@@ -39,8 +36,8 @@ Result decrypt(std::string_view ciphered, std::string_view key) {
 // The last two hold a published vector each, of a weak key and of an ordinary one: their first
 // plaintext block is combined with the key beforehand, which the start of the chain undoes.
 TEST(Des, MatchesKnownCiphertextsBothWays) {
-  const std::string weakKey = unhex("0101010101010101");
-  const std::string plainKey = unhex("133457799bbcdff1");
+  const std::string weakKey = hex("0101010101010101");
+  const std::string plainKey = hex("133457799bbcdff1");
   const struct {
     std::string_view key;
     std::string plain, ciphered;
@@ -52,12 +49,12 @@ TEST(Des, MatchesKnownCiphertextsBothWays) {
       {kKey, kText, kCiphered},
       {"12345678 and more", "A", "d3692c06151dcd95"},
       {std::string_view("123456", 3), "ABC", "4ec1435c09a99f97"},
-      {weakKey, unhex("8101010101010101"), "95f8a5e5dd31d900210fa61eda7d4365"},
-      {plainKey, unhex("1217121e1217121e"), "85e813540f0ab40577a2a9308f18d27b"},
+      {weakKey, hex("8101010101010101"), "95f8a5e5dd31d900210fa61eda7d4365"},
+      {plainKey, hex("1217121e1217121e"), "85e813540f0ab40577a2a9308f18d27b"},
   };
   for (const auto& [key, plain, ciphered] : cases) {
     SCOPED_TRACE(ciphered);
-    const std::string expected = unhex(ciphered);
+    const std::string expected = hex(ciphered);
     std::vector<char> out(expected.size() + 8, '#');
     ASSERT_EQ(desEncrypt(plain, key, std::span(out).first(expected.size())),
               static_cast<int>(expected.size()));
@@ -83,31 +80,20 @@ TEST(Des, DeciphersARaggedTailAsIfZerosFollowed) {
       {31 - 0xab, "54686520717569636b2062726f776e20666f78206a756d701a7c52c7413bab"},
       {33 - 0x34, "54686520717569636b2062726f776e20666f78206a756d7073206f766572206134"},
   };
-  const std::string message = unhex(kCiphered);
+  const std::string message = hex(kCiphered);
   for (const auto& [value, plain] : cases) {
     const Result result = decrypt(std::string_view(message).substr(0, plain.size() / 2), kKey);
     EXPECT_EQ(result.value, value) << plain;
-    EXPECT_EQ(result.out, unhex(plain));
-  }
-}
-
-TEST(Des, StaysInsideAnInputThatEndsItsHeapBlock) {
-  const std::string message = unhex(kCiphered);
-  for (std::size_t size = 1; size <= 33; ++size) {
-    const auto block = std::make_unique<char[]>(size);
-    message.copy(block.get(), size);
-    const Result result = decrypt({block.get(), size}, kKey);
-    const std::size_t whole = size - size % 8;
-    EXPECT_EQ(result.out.substr(0, whole), std::string(kText, whole)) << size;
+    EXPECT_EQ(result.out, hex(plain));
   }
 }
 
 TEST(Des, ReportsLengthsAsTheyCome) {
   std::vector<char> out(16);
   const std::span<char> room(out);
-  EXPECT_EQ(decrypt(unhex("e3ff6ca2f20a1196"), kKey).value, 8 - 200);
+  EXPECT_EQ(decrypt(hex("e3ff6ca2f20a1196"), kKey).value, 8 - 200);
   EXPECT_EQ(desDecrypt("", kKey, {}), 0);
-  EXPECT_EQ(desDecrypt(unhex("e3ff6ca2f20a1196"), kKey, room.first(7)), -1);
+  EXPECT_EQ(desDecrypt(hex("e3ff6ca2f20a1196"), kKey, room.first(7)), -1);
   EXPECT_EQ(desEncrypt("ABCDEFGH", kKey, room.first(15)), -1);
   EXPECT_EQ(desEncrypt("ABCDEFG", kKey, room.first(7)), -1);
 }

@@ -7,18 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/hex.h"
+
 namespace tovi::cipher {
 namespace {
 
-constexpr char kKey[] = "83aa400af464c76d";
+using tovi::test::hex;
 
-std::string unhex(const std::string& hex) {
-  std::string bytes;
-  for (std::size_t i = 0; i < hex.size(); i += 2) {
-    bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-  }
-  return bytes;
-}
+constexpr char kKey[] = "83aa400af464c76d";
 
 std::string decrypted(std::string_view ciphered, std::string_view key) {
   std::vector<char> out(ciphered.size() + 24, '#');
@@ -29,7 +25,7 @@ std::string decrypted(std::string_view ciphered, std::string_view key) {
 
 // The last holds the published vector, which enciphers its own key: the chain makes it of zeros.
 TEST(Sm4, MatchesKnownCiphertextsBothWays) {
-  const std::string vectorKey = unhex("0123456789abcdeffedcba9876543210");
+  const std::string vectorKey = hex("0123456789abcdeffedcba9876543210");
   const struct {
     std::string_view key;
     std::string plain, ciphered;
@@ -47,7 +43,7 @@ TEST(Sm4, MatchesKnownCiphertextsBothWays) {
   };
   for (const auto& [key, plain, ciphered] : cases) {
     SCOPED_TRACE(ciphered);
-    const std::string expected = unhex(ciphered);
+    const std::string expected = hex(ciphered);
     std::vector<char> out(expected.size() + 8, '#');
     ASSERT_EQ(Sm4(key).encrypt(plain, std::span(out).first(expected.size())),
               static_cast<int>(expected.size()));
@@ -59,7 +55,7 @@ TEST(Sm4, MatchesKnownCiphertextsBothWays) {
 TEST(Sm4, LeavesOutALastBlockThatFails) {
   ERR_clear_error();
   const std::string message =
-      unhex("4563182f07e35cd13cf78a4cdcc9a066f4ae333c667d68c594716373e1c90ab3");
+      hex("4563182f07e35cd13cf78a4cdcc9a066f4ae333c667d68c594716373e1c90ab3");
   const std::string first = "ABCDEFGHIJKLMNOP";
   const struct {
     std::size_t size;

@@ -27,8 +27,11 @@ TEST(Codec, WritersPutBytesInTheirOrderAtTheirOffset) {
 TEST(Codec, ReadersAreSigned) {
   EXPECT_EQ(bytesToShort(hex("FF 7F").data(), 0), 0x7FFF);
   EXPECT_EQ(bytesToShort(hex("00 80").data(), 0), -32768);
+  EXPECT_EQ(bytesToShort(hex("80 01").data(), 0), 0x0180);
   EXPECT_EQ(bytesToShort(hex("55 FE FF").data(), 1), -2);
   EXPECT_EQ(bytesToInt(hex("44 33 22 11").data(), 0), 0x11223344);
+  EXPECT_EQ(bytesToInt(hex("FF 80 01 00").data(), 0), 0x000180FF);
+  EXPECT_EQ(bytesToInt(hex("01 00 F0 00").data(), 0), 0x00F00001);
   EXPECT_EQ(bytesToInt(hex("55 FF FF FF FF").data(), 1), -1);
   EXPECT_EQ(bytesToInt(hex("00 00 00 80").data(), 0), -2147483647 - 1);
 }
@@ -54,13 +57,10 @@ TEST(Codec, ChecksumFollowsTheControllersTable) {
 }
 
 TEST(Codec, CalendarTimeTakesItsFieldsUnchanged) {
-  const std::tm time = getTm(2024, 1, 2, 3, 4, 5);
-  EXPECT_EQ(time.tm_year, 2024);
-  EXPECT_EQ(time.tm_mon, 1);
-  EXPECT_EQ(time.tm_mday, 2);
-  EXPECT_EQ(time.tm_hour, 3);
-  EXPECT_EQ(time.tm_min, 4);
-  EXPECT_EQ(time.tm_sec, 5);
+  const std::tm time = getTm(124, 1, 2, 3, 4, 5);
+  char text[32];
+  std::strftime(text, sizeof text, "%Y %m %d %H %M %S", &time);  // counts from 1900 and from 1
+  EXPECT_STREQ(text, "2024 02 02 03 04 05");
 }
 
 TEST(Codec, AddressTextBecomesItsNumber) {

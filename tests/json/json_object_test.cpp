@@ -39,16 +39,13 @@ TEST(JsonObject, RefusesToAddTwiceOrToAnArray) {
 TEST(JsonObject, TellsWhereParsingFailed) {
   CJsonObject object("{\"a\":1}");
   EXPECT_EQ(object.errorText(), "");
-  EXPECT_FALSE(object.parseText("{\"a\":tru, 1}"));
-  EXPECT_EQ(object.errorText(), "prase json string error at tru, 1}");
-  EXPECT_EQ(object.toText(), "");
-  EXPECT_FALSE(object.parseText(""));
-  EXPECT_EQ(object.errorText(), "prase json string error at ");
-  EXPECT_FALSE(object.parseText("?" + std::string(1000, 'x')));
-  EXPECT_EQ(object.errorText(), "prase json string error at ?" + std::string(1000, 'x'));
-  EXPECT_FALSE(object.parseText(object.errorText()));
+  for (const std::string& text : {std::string("tru, 1}"), std::string(), std::string(1000, '?')}) {
+    EXPECT_FALSE(object.parseText(" " + text));
+    EXPECT_EQ(object.errorText(), "prase json string error at " + text);
+    EXPECT_EQ(object.toText(), "");
+  }
   EXPECT_TRUE(object.parseText("[]"));
-  EXPECT_EQ(object.errorText().substr(0, 37), "prase json string error at prase json");
+  EXPECT_EQ(object.errorText(), "prase json string error at " + std::string(1000, '?'));
 }
 
 TEST(JsonObject, GivesValuesAsText) {
@@ -67,12 +64,6 @@ TEST(JsonObject, GivesValuesAsText) {
   for (const auto& [key, text] : cases) EXPECT_EQ(object.valueText(key), text) << key;
   EXPECT_EQ(CJsonObject("[1]").valueText(""), "");
   EXPECT_EQ(CJsonObject().valueText("a"), "");
-}
-
-TEST(JsonObject, GivesLongStringsWhole) {
-  CJsonObject object;
-  object.addText("long", std::string(5000, 'b'));
-  EXPECT_EQ(object.valueText("long"), std::string(5000, 'b'));
 }
 
 TEST(JsonObject, ReadsArraysOfText) {
@@ -101,74 +92,52 @@ TEST(JsonObject, HandsOutTheSameWrapper) {
   CJsonObject object(R"({"list":[{"a":1},[2]],"b":{}})");
   CJsonObject& list = object.member("list");
   CJsonObject& first = list.element(0);
-  EXPECT_EQ(first.valueText("a"), "1");
   EXPECT_TRUE(first.addText("c", "new"));
-  EXPECT_TRUE(object.addInt("late", 5));
   for (int i = 0; i < 100; ++i) object.addInt(std::to_string(i), i);
   EXPECT_EQ(&object.member("list"), &list);
   EXPECT_EQ(&list.element(0), &first);
-  EXPECT_EQ(first.toText(), R"({"a":1,"c":"new"})");
+  EXPECT_EQ(first.valueText("a"), "1");
   EXPECT_EQ(list.toText(), R"([{"a":1,"c":"new"},[2]])");
   EXPECT_EQ(list.element(1).element(0).toText(), "2");
+  list.clear();
+  EXPECT_FALSE(list.parseText("["));
+  EXPECT_EQ(list.toText(), "");
+  EXPECT_EQ(object.member("list").toText(), R"([{"a":1,"c":"new"},[2]])");
 }
 
 TEST(JsonObject, MissingChildrenAreHarmless) {
   CJsonObject object;
   CJsonObject& child = object.member("a");
-  EXPECT_EQ(child.toText(), "");
   EXPECT_EQ(child.member("b").element(3).valueText("c"), "");
   EXPECT_TRUE(object.addInt("a", 5));
   EXPECT_EQ(&object.member("a"), &child);
   EXPECT_EQ(child.toText(), "5");
+  for (const char* text : {"[1]", "{\"a\":1}", "7"}) {
+    CJsonObject other(text);
+    EXPECT_EQ(other.member("0").toText() + other.element(1).toText(), "") << text;
+  }
 
+  // What is added to a missing one stays its own, until it is cleared.
   CJsonObject& other = object.member("other");
   EXPECT_TRUE(other.addInt("x", 1));
-  EXPECT_EQ(other.toText(), R"({"x":1})");
   EXPECT_EQ(object.toText(), R"({"a":5})");
   EXPECT_TRUE(object.addInt("other", 6));
   EXPECT_EQ(object.member("other").toText(), R"({"x":1})");
   other.clear();
   EXPECT_EQ(object.member("other").toText(), "6");
-  EXPECT_EQ(object.element(0).toText(), "");
-  EXPECT_EQ(CJsonObject("[1]").member("0").toText(), "");
-  EXPECT_EQ(CJsonObject("[1]").element(1).toText(), "");
-  EXPECT_EQ(CJsonObject("{\"a\":1}").element(0).toText(), "");
 }
 
 TEST(JsonObject, ParsingAnewForgetsTheChildren) {
   CJsonObject object("{\"a\":\"first\"}");
   EXPECT_EQ(object.member("a").toText(), "\"first\"");
-  EXPECT_TRUE(object.parseText("{\"b\":1}"));
-  EXPECT_EQ(object.member("a").toText(), "");
   EXPECT_TRUE(object.parseText("[7]"));
+  EXPECT_EQ(object.member("a").toText(), "");
   EXPECT_EQ(object.element(0).toText(), "7");
+  EXPECT_TRUE(object.element(1).addInt("of its own", 1));
   object.clear();
-  EXPECT_EQ(object.element(0).toText(), "");
+  EXPECT_EQ(object.element(1).toText(), "");
   EXPECT_TRUE(object.addInt("b", 1));
   EXPECT_EQ(object.toText(), "{\"b\":1}");
-}
-
-TEST(JsonObject, ClearingAChildLeavesItsParent) {
-  CJsonObject object("{\"a\":[1]}");
-  CJsonObject& child = object.member("a");
-  child.clear();
-  EXPECT_EQ(child.toText(), "");
-  EXPECT_FALSE(child.parseText("["));
-  EXPECT_EQ(child.arraySize(), 0U);
-  EXPECT_EQ(object.toText(), "{\"a\":[1]}");
-  EXPECT_EQ(object.member("a").toText(), "[1]");
-}
-
-TEST(JsonObject, WalksHugeArrays) {
-  std::string text = "[0";
-  for (int i = 1; i < 100'000; ++i) text += ",{}";
-  CJsonObject object(text + "]");
-  ASSERT_EQ(object.arraySize(), 100'000U);
-  std::uint32_t empty = 0;
-  for (std::uint32_t i = 0; i < object.arraySize(); ++i) {
-    if (object.element(i).toText() == "{}") ++empty;
-  }
-  EXPECT_EQ(empty, 99'999U);
 }
 
 }  // namespace

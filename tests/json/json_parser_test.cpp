@@ -82,9 +82,10 @@ TEST(JsonParser, PassesRawControlCharactersThrough) {
 }
 
 TEST(JsonParser, RefusesBrokenStrings) {
-  expectErrorsAt(1, {R"("\x")", R"("\U0041")", R"("\u12")", R"("\u12G4")", R"("\u-123")",
-                     R"("\u 123")", R"("\uD83D")", R"("\uDE00")", R"("\uD83Dabcdef")",
-                     R"("\uD83D\uD83D")", R"("\uD83D\u0041")", R"("\uD83D\u)"});
+  expectErrorsAt(
+      1, {R"("\x")", R"("\U0041")", R"("\u12")", R"("\u12G4")", R"("\u-123")", R"("\u 123")",
+          R"("\uD83D")", R"("\uDE00")", R"("\uD83Dabcdef")", R"("\uD83D\uD83D")",
+          R"("\uD83D\u0041")", R"("\uD83D\uE000")", R"("\uD83D\u)"});
   expectErrorsAt(4, {"\"abc", "\"abc\\"});
 }
 
@@ -138,15 +139,6 @@ TEST(JsonParser, BoundsNesting) {
   std::string siblings = "[[]";
   for (int i = 0; i < 1000; ++i) siblings += ",[]";
   EXPECT_EQ(reprint(siblings + "]"), siblings + "]");
-}
-
-TEST(JsonParser, TakesLargeTexts) {
-  const std::string text = "\"" + std::string(1 << 20, 'x') + "\"";
-  EXPECT_EQ(reprint(text), text);
-  std::string escapes;
-  for (int i = 0; i < 200'000; ++i) escapes += "\\u0041";
-  EXPECT_EQ(reprint("\"" + escapes + "\""), "\"" + std::string(200'000, 'A') + "\"");
-  EXPECT_EQ(reprint(std::string(1 << 20, '9')), "error at 0");
 }
 
 struct CommaDecimals : std::numpunct<char> {

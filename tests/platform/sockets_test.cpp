@@ -12,6 +12,7 @@
 #include "loopback.h"
 #include "platform/listener.h"
 #include "platform/system.h"
+#include "tests/support/dead_port.h"
 
 namespace tovi::platform::test {
 namespace {
@@ -60,11 +61,9 @@ TEST_F(Sockets, RefuseWhatIsNoDottedAddress) {
 }
 
 TEST_F(Sockets, ReportAClosedPort) {
-  OwnedSocket listener(listenOn("127.0.0.1", 0));
-  const std::uint16_t port = localPort(listener.get());
-  listener.close();
+  const tovi::test::DeadPort port;
   OwnedSocket socket(openSocket());
-  EXPECT_FALSE(connectSocket(socket.get(), "127.0.0.1", port, kLongMs));
+  EXPECT_FALSE(connectSocket(socket.get(), "127.0.0.1", port.number(), kLongMs));
   EXPECT_NE(lastSocketError(), 0);
 }
 
@@ -88,15 +87,9 @@ TEST_F(Sockets, BoundTheWaitForASilentPeer) {
   EXPECT_EQ(receiveSome(near.get(), buffer, 30), -1);
   EXPECT_NE(lastSocketError(), 0);
   EXPECT_GE(watch.elapsedMs(), 30);
-  EXPECT_LT(watch.elapsedMs(), kLongMs);
-}
-
-TEST_F(Sockets, BoundTheSendToAPeerThatNeverReads) {
-  connectBothEnds();
-  const Stopwatch watch;
-  EXPECT_EQ(sendAll(near.get(), std::string(kMoreThanFits, 'x'), 50), -1);
+  EXPECT_EQ(sendAll(near.get(), std::string(kMoreThanFits, 'x'), 30), -1);
   EXPECT_NE(lastSocketError(), 0);
-  EXPECT_GE(watch.elapsedMs(), 50);
+  EXPECT_GE(watch.elapsedMs(), 60);
   EXPECT_LT(watch.elapsedMs(), kLongMs);
 }
 
@@ -160,6 +153,11 @@ TEST_F(Sockets, TakeWhatAPeerSentBeforeItClosed) {
   far.close();
   EXPECT_EQ(receiveSome(near.get(), buffer, kLongMs), 3);
   EXPECT_EQ(receiveSome(near.get(), buffer, kLongMs), 0);
+  // The first bytes are taken before the peer's refusal comes back.
+  const Stopwatch watch;
+  int result = 0;
+  while (result >= 0 && watch.elapsedMs() < kLongMs) result = sendAll(near.get(), "x", kLongMs);
+  EXPECT_EQ(result, -1);
 }
 
 TEST_F(Sockets, TellAReset) {
@@ -168,16 +166,6 @@ TEST_F(Sockets, TellAReset) {
   resetOnClose(far.get());
   far.close();
   EXPECT_EQ(receiveSome(near.get(), buffer, kLongMs), -1);
-}
-
-TEST_F(Sockets, ReportAPeerThatIsGoneWhileSending) {
-  connectBothEnds();
-  far.close();
-  // The first bytes are taken before the peer's refusal comes back.
-  const Stopwatch watch;
-  int result = 0;
-  while (result >= 0 && watch.elapsedMs() < kLongMs) result = sendAll(near.get(), "x", kLongMs);
-  EXPECT_EQ(result, -1);
 }
 
 TEST_F(Sockets, RefuseWhatNoCallCanDo) {

@@ -5,33 +5,23 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "loopback.h"
 #include "platform/files.h"
 #include "platform/text.h"
+#include "tests/transfer/temporary_folder.h"
 
 namespace tovi::platform::test {
 namespace {
 
 class Files : public testing::Test {
  protected:
-  Files()
-      : folder_(std::filesystem::temp_directory_path() /
-                ("tovi-files-" + std::to_string(std::random_device()()))) {}
-  ~Files() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-
-  std::string in(const std::string& name) const { return (folder_ / name).string(); }
-  std::string folder() const { return folder_.string(); }
+  std::string in(const std::string& name) const { return mFolder.path(name); }
 
  private:
-  std::filesystem::path folder_;
+  const tovi::test::TemporaryFolder mFolder;
 };
 
 std::vector<std::string> linesOf(const std::string& path) {
@@ -42,8 +32,9 @@ std::vector<std::string> linesOf(const std::string& path) {
 }
 
 TEST_F(Files, MakeFoldersWhereTheyCan) {
-  EXPECT_TRUE(makeFolder((folder() + kPathSeparator).c_str())) << "as the log folder is written";
-  EXPECT_TRUE(makeFolder(folder().c_str())) << "it exists";
+  EXPECT_TRUE(makeFolder((in("new") + kPathSeparator).c_str())) << "as the log folder is written";
+  EXPECT_TRUE(makeFolder(in("new").c_str())) << "it exists";
+  EXPECT_TRUE(std::filesystem::is_directory(in("new")));
   EXPECT_FALSE(makeFolder((in("missing") + kPathSeparator + "inner").c_str()));
   ASSERT_TRUE(appendText(in("file").c_str(), "x"));
   EXPECT_FALSE(makeFolder(in("file").c_str())) << "a file of that name";
@@ -51,7 +42,6 @@ TEST_F(Files, MakeFoldersWhereTheyCan) {
 }
 
 TEST_F(Files, AppendWithTheSystemsLineEnds) {
-  ASSERT_TRUE(makeFolder(folder().c_str()));
   EXPECT_TRUE(appendText(in("log").c_str(), ""));
   EXPECT_EQ(std::filesystem::file_size(in("log")), 0U);
   EXPECT_TRUE(appendText(in("log").c_str(), "one\n\n"));
@@ -63,34 +53,24 @@ TEST_F(Files, AppendWithTheSystemsLineEnds) {
 }
 
 TEST_F(Files, RefuseWhatCannotBeWritten) {
-  ASSERT_TRUE(makeFolder(folder().c_str()));
   ASSERT_TRUE(appendText(in("file").c_str(), "x"));
-  for (const std::string& path : {in("missing") + kPathSeparator + "log", folder(),
+  for (const std::string& path : {in("missing") + kPathSeparator + "log", in(""),
                                   in("file") + kPathSeparator + "log", std::string()}) {
     EXPECT_FALSE(appendText(path.c_str(), "x")) << path;
   }
 }
 
-TEST_F(Files, KeepRecordsOfManyThreadsWhole) {
-  ASSERT_TRUE(makeFolder(folder().c_str()));
-  constexpr std::size_t kThreads = 6;
-  constexpr std::size_t kRecords = 60;
-  constexpr std::size_t kLength = 9000;
-  std::vector<std::thread> writers;
-  for (std::size_t i = 0; i < kThreads; ++i) {
-    writers.emplace_back([this, letter = static_cast<char>('a' + i)] {
-      const std::string record = std::string(kLength, letter) + "\n";
-      for (std::size_t j = 0; j < kRecords; ++j) EXPECT_TRUE(appendText(in("log").c_str(), record));
-    });
-  }
-  for (std::thread& writer : writers) writer.join();
-
-  std::vector<std::size_t> seen(kThreads);
-  for (const std::string& line : linesOf(in("log"))) {
-    ASSERT_EQ(line, std::string(kLength, line[0]));
-    ++seen.at(static_cast<std::size_t>(line[0] - 'a'));
-  }
-  EXPECT_EQ(seen, std::vector<std::size_t>(kThreads, kRecords));
+TEST_F(Files, AreMeasuredAndReplaceOneAnother) {
+  EXPECT_EQ(fileSize(in("log").c_str()), 0);
+  ASSERT_TRUE(appendText(in("log").c_str(), "record"));
+  ASSERT_TRUE(appendText(in("aside").c_str(), "before"));
+  EXPECT_EQ(fileSize(in("log").c_str()), 6);
+  EXPECT_TRUE(renameFile(in("log").c_str(), in("aside").c_str()));
+  EXPECT_EQ(linesOf(in("aside")), std::vector<std::string>{"record"});
+  EXPECT_FALSE(renameFile(in("log").c_str(), in("aside").c_str()));
+  EXPECT_TRUE(endsWithSeparator((in("") + kPathSeparator).c_str()));
+  EXPECT_FALSE(endsWithSeparator(in("log").c_str()));
+  EXPECT_FALSE(endsWithSeparator(""));
 }
 
 TEST(System, PausesAtLeastThatLong) {

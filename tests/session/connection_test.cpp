@@ -78,17 +78,14 @@ TEST_F(Connection, AServerKeepsItsSocketOpen) {
                  "info ToviTraffic::~ToviTraffic start", "info ToviTraffic::~ToviTraffic end"}));
 }
 
-TEST_F(Connection, AnInvalidServerSocketIsNoConnection) {
-  ToviTraffic traffic(kInvalid);
-  EXPECT_EQ(access::getSocket(traffic), 0u);
-  EXPECT_TRUE(fake().logged("error ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null"));
-  EXPECT_EQ(traffic.setPower(true), -14);
-}
-
-TEST_F(Connection, AnAdoptedSocketMayBeChanged) {
+TEST_F(Connection, TheSocketOfAServerMayBeChangedAndInvalid) {
   ToviTraffic traffic("127.0.0.1", 5005);
   access::setSocket(traffic, 9);
   EXPECT_EQ(access::getSocket(traffic), 9u);
+  access::setSocket(traffic, kInvalid);
+  EXPECT_EQ(access::getSocket(traffic), 0u);
+  EXPECT_TRUE(fake().logged("error ToviTraffic::getSocket mSocket is INVALID_SOCKET, return null"));
+  EXPECT_EQ(traffic.setPower(true), -14);
 }
 
 TEST_F(Connection, OnlyAddressesThatFitAreTaken) {
@@ -106,13 +103,19 @@ TEST_F(Connection, OnlyAddressesThatFitAreTaken) {
   }
 }
 
-TEST_F(Connection, TheTimeoutHoldsForLaterConnections) {
+TEST_F(Connection, TheTimeoutHoldsForAllThatMayWait) {
   ToviTraffic traffic("127.0.0.1", 5005);
   for (const int ms : {5000, 0, -1}) {
     traffic.setTimeout(ms);
-    access::getSocket(traffic);
+    traffic.sendHeartBeat();
   }
-  EXPECT_EQ(fake().socketTimeouts, (std::vector<int>{5000, 0, 0}));
+  const std::vector<int> timeouts{5000, 0, 0};
+  EXPECT_EQ(fake().socketTimeouts, timeouts);
+  EXPECT_EQ(fake().connectTimeouts, timeouts);
+  EXPECT_EQ(fake().sendTimeouts, timeouts);
+  traffic.setTimeout(70);
+  traffic.setPower(true);
+  EXPECT_EQ(fake().receiveTimeouts, (std::vector<int>{70, 70, 70}));
 }
 
 }  // namespace

@@ -6,11 +6,14 @@
 #include <cstdlib>
 #include <new>
 
+#include "tests/support/heap_probe.h"
+
 namespace {
 
 thread_local bool gArmed = false;
 thread_local bool gFromThenOn = false;
 thread_local long gLeft = 0;  // until the one that fails; below 0 once it was asked for
+thread_local long gBlocks = 0;
 
 #ifdef TOVI_FAILS_MEMORY
 void* take(std::size_t size) noexcept {
@@ -18,7 +21,14 @@ void* take(std::size_t size) noexcept {
     --gLeft;
     if (gLeft == 0 || (gLeft < 0 && gFromThenOn)) return nullptr;
   }
-  return std::malloc(size == 0 ? 1 : size);
+  void* block = std::malloc(size == 0 ? 1 : size);
+  if (block != nullptr) ++gBlocks;
+  return block;
+}
+
+void giveBack(void* block) noexcept {
+  if (block != nullptr) --gBlocks;
+  std::free(block);
 }
 
 void* takeOrThrow(std::size_t size) {
@@ -52,6 +62,8 @@ bool FailingMemory::struck() { return gLeft <= 0; }
 OwnMemory::OwnMemory() : mWasArmed(gArmed) { gArmed = false; }
 OwnMemory::~OwnMemory() { gArmed = mWasArmed; }
 
+long heapBlocksOfThisThread() { return gBlocks; }
+
 }  // namespace tovi::test
 
 #ifdef TOVI_FAILS_MEMORY
@@ -59,8 +71,8 @@ void* operator new(std::size_t size) { return takeOrThrow(size); }
 void* operator new[](std::size_t size) { return takeOrThrow(size); }
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return take(size); }
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return take(size); }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete[](void* block) noexcept { std::free(block); }
-void operator delete(void* block, std::size_t) noexcept { std::free(block); }
-void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
+void operator delete(void* block) noexcept { giveBack(block); }
+void operator delete[](void* block) noexcept { giveBack(block); }
+void operator delete(void* block, std::size_t) noexcept { giveBack(block); }
+void operator delete[](void* block, std::size_t) noexcept { giveBack(block); }
 #endif

@@ -40,76 +40,60 @@ bool FakePlatform::logged(const std::string& record) const {
 }  // namespace tovi::test
 
 namespace tovi::platform {
-
-using test::fakePlatform;
-using test::Incoming;
-
 namespace {
 
+using test::Incoming;
+
 constexpr Socket kSocket = 7;
+
+// The platform, for one expression; what it records costs the library no memory.
+struct Fake : test::OwnMemory {
+  test::FakePlatform* operator->() const { return &test::fakePlatform(); }
+};
 
 }  // namespace
 
 StartUp startUpSockets() {
-  const test::OwnMemory own;
-  ++fakePlatform().startUps;
-  return fakePlatform().startUp;
+  ++Fake()->startUps;
+  return Fake()->startUp;
 }
-
-void cleanUpSockets() {
-  const test::OwnMemory own;
-  ++fakePlatform().cleanUps;
-}
+void cleanUpSockets() { ++Fake()->cleanUps; }
 
 Socket openSocket() {
-  const test::OwnMemory own;
-  if (fakePlatform().openFails) return kInvalidSocket;
-  ++fakePlatform().opened;
+  if (Fake()->openFails) return kInvalidSocket;
+  ++Fake()->opened;
   return kSocket;
 }
+void closeSocket(Socket) { ++Fake()->closed; }
 
-void closeSocket(Socket) {
-  const test::OwnMemory own;
-  ++fakePlatform().closed;
-}
+void setTimeouts(Socket, int milliseconds) { Fake()->socketTimeouts.push_back(milliseconds); }
+int receiveTimeout(Socket) { return Fake()->hostReceiveTimeout; }
 
-void setTimeouts(Socket, int milliseconds) {
-  const test::OwnMemory own;
-  fakePlatform().socketTimeouts.push_back(milliseconds);
-}
-
-int receiveTimeout(Socket) {
-  const test::OwnMemory own;
-  return fakePlatform().hostReceiveTimeout;
-}
-
-bool connectSocket(Socket, const char* address, std::uint16_t port, int, Stop) {
-  const test::OwnMemory own;
-  if (address == nullptr || fakePlatform().connectFails) return false;
-  fakePlatform().connections.push_back(std::string(address) + ":" + std::to_string(port));
+bool connectSocket(Socket, const char* address, std::uint16_t port, int timeoutMs, Stop) {
+  const Fake fake;
+  fake->connectTimeouts.push_back(timeoutMs);
+  if (address == nullptr || fake->connectFails) return false;
+  fake->connections.push_back(std::string(address) + ":" + std::to_string(port));
   return true;
 }
 
-bool isQuiet(Socket) {
-  const test::OwnMemory own;
-  return fakePlatform().quiet;
-}
+bool isQuiet(Socket) { return Fake()->quiet; }
 
 int sendAll(Socket, std::string_view bytes, int timeoutMs, Stop) {
-  const test::OwnMemory own;
-  fakePlatform().sendTimeouts.push_back(timeoutMs);
-  if (fakePlatform().sendFails) return -1;
-  fakePlatform().sent.emplace_back(bytes);
+  const Fake fake;
+  fake->sendTimeouts.push_back(timeoutMs);
+  if (fake->sendFails) return -1;
+  fake->sent.emplace_back(bytes);
   return static_cast<int>(bytes.size());
 }
 
 int receiveSome(Socket, std::span<char> buffer, int timeoutMs, Stop) {
-  const test::OwnMemory own;
-  fakePlatform().receiveTimeouts.push_back(timeoutMs);
-  fakePlatform().receiveSizes.push_back(buffer.size());
-  fakePlatform().steadyMs += fakePlatform().msPerRead;
-  if (fakePlatform().incoming.empty()) return -1;
-  Incoming& next = fakePlatform().incoming.front();
+  const Fake fake;
+  fake->receiveTimeouts.push_back(timeoutMs);
+  fake->receiveSizes.push_back(buffer.size());
+  fake->steadyMs += fake->msPerRead;
+  if (fake->incoming.empty()) return -1;
+  Incoming& next = fake->incoming.front();
   int result = next.kind == Incoming::Kind::Failure ? -1 : 0;
   if (next.kind == Incoming::Kind::Bytes) {
     const std::size_t count = next.bytes.copy(buffer.data(), buffer.size());
@@ -117,72 +101,41 @@ int receiveSome(Socket, std::span<char> buffer, int timeoutMs, Stop) {
     result = static_cast<int>(count);
     if (!next.bytes.empty()) return result;
   }
-  if (next.kind != Incoming::Kind::Closed) fakePlatform().incoming.pop_front();
+  if (next.kind != Incoming::Kind::Closed) fake->incoming.pop_front();
   return result;
 }
 
-int lastSocketError() {
-  const test::OwnMemory own;
-  return fakePlatform().socketError;
-}
+int lastSocketError() { return Fake()->socketError; }
 
-void pauseFor(int milliseconds, Stop) {
-  const test::OwnMemory own;
-  fakePlatform().pauses.push_back(milliseconds);
-}
-
-long long steadyMs() {
-  const test::OwnMemory own;
-  return fakePlatform().steadyMs;
-}
-
-std::time_t now() {
-  const test::OwnMemory own;
-  return fakePlatform().now;
-}
-
-std::tm localTime(std::time_t) {
-  const test::OwnMemory own;
-  return fakePlatform().localTime;
-}
-
-std::string executableFolder() {
-  const test::OwnMemory own;
-  return fakePlatform().executableFolder;
-}
+void pauseFor(int milliseconds, Stop) { Fake()->pauses.push_back(milliseconds); }
+long long steadyMs() { return Fake()->steadyMs; }
+std::time_t now() { return Fake()->now; }
+std::tm localTime(std::time_t) { return Fake()->localTime; }
+std::string executableFolder() { return Fake()->executableFolder; }
 
 const char kPathSeparator = '/';
-
-bool endsWithSeparator(const char* path) {
-  const test::OwnMemory own;
-  return std::string_view(path).ends_with('/');
-}
+bool endsWithSeparator(const char* path) { return std::string_view(path).ends_with('/'); }
 
 bool appendText(const char* path, std::string_view text) {
-  const test::OwnMemory own;
-  const std::string folder = test::folderOf(path);
-  if (fakePlatform().folders.count(folder) == 0) return false;
-  fakePlatform().files[path] += text;
+  const Fake fake;
+  if (fake->folders.count(test::folderOf(path)) == 0) return false;
+  fake->files[path] += text;
   return true;
 }
 
 bool makeFolder(const char* path) {
-  const test::OwnMemory own;
-  fakePlatform().madeFolders.emplace_back(path);
-  if (!fakePlatform().foldersCanBeMade) return false;
-  fakePlatform().folders.insert(path);
-  return true;
+  const Fake fake;
+  fake->madeFolders.emplace_back(path);
+  if (fake->foldersCanBeMade) fake->folders.insert(path);
+  return fake->foldersCanBeMade;
 }
 
-long long fileSize(const char* path) {
-  const test::OwnMemory own;
-  return static_cast<long long>(fakePlatform().files[path].size());
-}
+long long fileSize(const char* path) { return static_cast<long long>(Fake()->files[path].size()); }
 
 bool renameFile(const char* from, const char* to) {
-  const test::OwnMemory own;
-  fakePlatform().files[to] = std::move(fakePlatform().files[from]);
-  return fakePlatform().files.erase(from) == 1;
+  const Fake fake;
+  fake->files[to] = std::move(fake->files[from]);
+  return fake->files.erase(from) == 1;
 }
 
 }  // namespace tovi::platform

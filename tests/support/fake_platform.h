@@ -45,6 +45,7 @@ struct FakePlatform {
   int opened = 0;
   int closed = 0;
   std::vector<std::string> connections;  // "address:port"
+  std::vector<int> connectTimeouts;
   std::vector<int> socketTimeouts;
   std::vector<std::string> sent;
   std::vector<int> sendTimeouts;

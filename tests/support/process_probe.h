@@ -7,6 +7,5 @@
 namespace tovi::test {
 
 std::size_t openDescriptors();  // on Windows: handles
-std::size_t threads();
 
 }  // namespace tovi::test

@@ -35,8 +35,6 @@ void closeSocket(ToviTraffic& traffic, std::uint64_t socket) { traffic.closeSock
 
 void setSocket(ToviTraffic& traffic, std::uint64_t socket) { traffic.setSocket(socket); }
 
-bool needMore(const ProtocalParser& parser) { return parser.needMore; }
-
 std::string pending(const ProtocalParser& parser) {
   return std::string(viewOf(parser.pending, parser.pendingLen));
 }

@@ -19,7 +19,6 @@ std::uint64_t getSocket(ToviTraffic& traffic);
 void closeSocket(ToviTraffic& traffic, std::uint64_t socket);
 void setSocket(ToviTraffic& traffic, std::uint64_t socket);
 
-bool needMore(const ProtocalParser& parser);
 std::string pending(const ProtocalParser& parser);
 std::size_t roomSize(const ProtocalParser& parser);
 

@@ -121,9 +121,11 @@ TEST_F(PacketBuilder, ArgumentsThatCannotBeFramedAreRefused) {
   EXPECT_EQ(size, 0);
   EXPECT_EQ(makeSendPacketEx(0x10, nullptr, 0, 0, nullptr, nullptr), nullptr);
   EXPECT_TRUE(fake().logged("error makeSendPacketEx argument refused, len = 3"));
-  char* frame = makeSendPacketEx(0x10, nullptr, -3, 0, nullptr, &size);
-  EXPECT_EQ(size, 7);
-  deleteArry(&frame);
+  for (const int empty : {0, -3}) {
+    char* frame = makeSendPacketEx(0x10, nullptr, empty, 0, nullptr, &size);
+    EXPECT_EQ(size, 7);
+    deleteArry(&frame);
+  }
 }
 
 }  // namespace

@@ -5,16 +5,10 @@
 #include <iterator>
 
 namespace tovi::test {
-namespace {
 
-std::size_t entriesOf(const char* folder) {
-  const std::filesystem::directory_iterator entries(folder);
-  return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+std::size_t openDescriptors() {
+  const std::filesystem::directory_iterator all("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(all), end(all)));
 }
-
-}  // namespace
-
-std::size_t openDescriptors() { return entriesOf("/proc/self/fd"); }
-std::size_t threads() { return entriesOf("/proc/self/task"); }
 
 }  // namespace tovi::test

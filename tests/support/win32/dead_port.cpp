@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/dead_port.h"
+
+#include <winsock2.h>
+
+namespace tovi::test {
+
+DeadPort::DeadPort() : mSocket(platform::openSocket()) {
+  sockaddr_in own{};
+  own.sin_family = AF_INET;
+  own.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  ::bind(static_cast<SOCKET>(mSocket), reinterpret_cast<const sockaddr*>(&own), sizeof own);
+}
+
+}  // namespace tovi::test
