@@ -51,7 +51,17 @@ class FileSending : public FakePlatformTest {
     return chunks;
   }
 
-  void expectNothingLeft() { EXPECT_EQ(fake().closed, fake().opened); }
+  // Sends a file to a controller that accepts so many chunks of it, and sees everything given back.
+  int send(ToviTraffic& traffic, const std::string& path, int chunks,
+           const ToviTraffic::Progress& progress = {}) {
+    const std::size_t descriptors = openDescriptors();
+    traffic.discardKeptBytes();
+    acceptFile(chunks);
+    const int result = traffic.sendFile(path.c_str(), "a.bin", progress);
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(fake().closed, fake().opened);
+    return result;
+  }
 
   TemporaryFolder mFolder;
   ToviTraffic mTraffic{"127.0.0.1", 5005};
@@ -78,15 +88,13 @@ TEST_F(FileSending, IsTheNameTheChunksAndTheEnd) {
   for (const auto& c : cases) {
     ToviTraffic traffic("127.0.0.1", 5005);
     if (c.setKey != nullptr) (traffic.*c.setKey)("12345678");
-    acceptFile(1);
-    EXPECT_EQ(traffic.sendFile(path.c_str(), "a.bin"), 1) << c.name;
+    EXPECT_EQ(send(traffic, path, 1), 1) << c.name;
     ASSERT_EQ(fake().sent.size(), 2u);
     EXPECT_EQ(toHex(fake().sent[0]), c.name);
     EXPECT_EQ(toHex(fake().sent[1]), c.chunk);
     EXPECT_TRUE(fake().incoming.empty());
   }
   EXPECT_TRUE(fake().logged("info sendFile start"));
-  expectNothingLeft();
 }
 
 TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
@@ -105,8 +113,8 @@ TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
   };
   for (const auto& c : cases) {
     const std::string content = pattern(c.size);
-    acceptFile(static_cast<int>(c.chunks.size()));
-    EXPECT_EQ(mTraffic.sendFile(mFolder.file(content).c_str(), "a.bin"), 1) << c.size;
+    EXPECT_EQ(send(mTraffic, mFolder.file(content), static_cast<int>(c.chunks.size())), 1)
+        << c.size;
     EXPECT_TRUE(fake().incoming.empty()) << c.size;
     std::vector<std::size_t> sizes;
     std::string received;
@@ -139,8 +147,7 @@ TEST_F(FileSending, TakesSmallerChunksWhileAKeyIsSet) {
       ToviTraffic traffic("127.0.0.1", 5005);
       (traffic.*setKey)("12345678");
       const std::vector<std::size_t>& chunks = setKey == &ToviTraffic::setDesKey ? c.des : c.others;
-      acceptFile(static_cast<int>(chunks.size()));
-      EXPECT_EQ(traffic.sendFile(path.c_str(), "a.bin"), 1) << c.size;
+      EXPECT_EQ(send(traffic, path, static_cast<int>(chunks.size())), 1) << c.size;
       std::vector<std::size_t> sizes;
       for (const std::string& chunk : sentChunks()) sizes.push_back(chunk.size());
       EXPECT_EQ(sizes, chunks) << c.size;
@@ -150,26 +157,27 @@ TEST_F(FileSending, TakesSmallerChunksWhileAKeyIsSet) {
 
 TEST_F(FileSending, RefusesArgumentsBeforeAnythingIsSent) {
   const std::string path = mFolder.file("x");
-  EXPECT_EQ(mTraffic.sendFile(nullptr, "a.bin"), -15);
-  EXPECT_EQ(mTraffic.sendFile(path.c_str(), nullptr), -15);
-  EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::RefusedArgument);
+  for (const auto& [from, to] : {std::pair{static_cast<const char*>(nullptr), "a.bin"},
+                                 {path.c_str(), static_cast<const char*>(nullptr)}}) {
+    EXPECT_EQ(mTraffic.sendFile(from, to), -15);
+    EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::RefusedArgument);
+  }
   EXPECT_EQ(fake().opened, 0);
   acceptFile(1);
   EXPECT_EQ(mTraffic.sendFile(path.c_str(), ""), 1);
+  EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::Done);
   EXPECT_EQ(unframe(fake().sent.at(0)), "11 FF FF");
 }
 
 TEST_F(FileSending, NeedsAConnection) {
   fake().connectFails = true;
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file("x").c_str(), "a.bin"), -1);
+  EXPECT_EQ(send(mTraffic, mFolder.file("x"), 1), -1);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoConnection);
-  expectNothingLeft();
 }
 
 TEST_F(FileSending, LeavesTheHostsOwnSocketOpen) {
   ToviTraffic traffic(std::uint64_t{42});
-  acceptFile(1);
-  EXPECT_EQ(traffic.sendFile(mFolder.file("x").c_str(), "a.bin"), 1);
+  EXPECT_EQ(send(traffic, mFolder.file("x"), 1), 1);
   EXPECT_EQ(fake().closed, 0);
 }
 
@@ -177,73 +185,56 @@ TEST_F(FileSending, FindsOutAboutTheFileOnceTheNameIsAcknowledged) {
   // The last one is a folder that claims to be of no size, where there is such a thing.
   for (const std::string& path : {mFolder.path("missing"), mFolder.path(), std::string(),
                                   std::string("/proc/self"), mFolder.path(std::string(300, 'x'))}) {
-    acceptFile(1);
-    EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin"), -13) << path;
+    EXPECT_EQ(send(mTraffic, path, 1), -13) << path;
     EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
     EXPECT_EQ(fake().sent.size(), 1u) << path;
-    expectNothingLeft();
-    mTraffic.discardKeptBytes();
   }
 }
 
+// A chunk that is not full would tell the controller that the file ends there.
 TEST_F(FileSending, DoesNotPassOffAShrunkenFileAsWhole) {
-  const std::string path = mFolder.file(pattern(200000));
-  acceptFile(3);
-  EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin",
-                              [&](long long, long long) {
-                                std::filesystem::resize_file(path, 100000);
-                                return true;
-                              }),
+  const std::string path = mFolder.file(pattern(300000));
+  EXPECT_EQ(send(mTraffic, path, 5,
+                 [&](long long, long long) {
+                   std::filesystem::resize_file(path, 170000);
+                   return true;
+                 }),
             -13);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
-  EXPECT_EQ(sentChunks().size(), 1u);
-  expectNothingLeft();
+  for (const std::string& chunk : sentChunks()) EXPECT_EQ(chunk.size(), 65537u);
 }
 
-TEST_F(FileSending, TellsItsProgress) {
-  Steps steps;
-  const auto note = [&](long long sent, long long total) {
-    steps.emplace_back(sent, total);
-    return true;
-  };
-  acceptFile(3);
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file(pattern(131070)).c_str(), "a.bin", note), 1);
-  EXPECT_EQ(steps, (Steps{{65535, 131070}, {131070, 131070}, {131070, 131070}}));
-
+TEST_F(FileSending, TellsItsProgressUntilTheHostStopsIt) {
+  const std::string path = mFolder.file(pattern(131070));
+  const Steps whole = {{65535, 131070}, {131070, 131070}, {131070, 131070}};
+  for (const std::ptrdiff_t most : {1, 2, 3, 4}) {
+    Steps steps;
+    const bool stopped = most <= 3;
+    EXPECT_EQ(send(mTraffic, path, 3,
+                   [&](long long sent, long long total) {
+                     steps.emplace_back(sent, total);
+                     return static_cast<std::ptrdiff_t>(steps.size()) < most;
+                   }),
+              stopped ? -16 : 1);
+    EXPECT_EQ(mTraffic.lastOutcome(), stopped ? ToviOutcome::Stopped : ToviOutcome::Done);
+    EXPECT_EQ(steps, Steps(whole.begin(), stopped ? whole.begin() + most : whole.end()));
+    EXPECT_EQ(sentChunks().size(), steps.size());
+  }
   // Only what was acknowledged counts.
-  steps.clear();
-  acceptFile(0);
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file("x").c_str(), "a.bin", note), -5);
-  EXPECT_TRUE(steps.empty());
+  EXPECT_EQ(
+      send(mTraffic, path, 0, [](long long, long long) -> bool { throw std::logic_error("told"); }),
+      -5);
 }
 
 TEST_F(FileSending, TakesWhatCannotBePositioned) {
   constexpr char kUnsized[] = "/proc/self/status";
   if (!std::filesystem::exists(kUnsized)) GTEST_SKIP() << "there is no such file here";
-  acceptFile(1);
   long long total = 0;
   EXPECT_EQ(
-      mTraffic.sendFile(kUnsized, "a", [&](long long, long long all) { return (total = all) < 0; }),
-      1);
+      send(mTraffic, kUnsized, 1, [&](long long, long long all) { return (total = all) < 0; }), 1);
   EXPECT_EQ(total, -1);
   ASSERT_EQ(sentChunks().size(), 1u);
   EXPECT_NE(sentChunks()[0].find("VmRSS"), std::string::npos);
-}
-
-TEST_F(FileSending, StopsWhenTheHostSaysSo) {
-  const std::string path = mFolder.file(pattern(131070));
-  for (const int most : {1, 2, 3}) {
-    int calls = 0;
-    acceptFile(3);
-    EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin",
-                                [&](long long, long long) { return ++calls < most; }),
-              -16);
-    EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::Stopped);
-    EXPECT_EQ(calls, most);
-    EXPECT_EQ(sentChunks().size(), static_cast<std::size_t>(most));
-    expectNothingLeft();
-    mTraffic.discardKeptBytes();
-  }
 }
 
 TEST_F(FileSending, GivesEverythingBackWhenTheHostThrows) {
