@@ -2,13 +2,10 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
+static std::string show(BrightnessInfo info) { return show(info.mode, info.brightness); }
 
-std::string show(BrightnessInfo info) { return show(info.mode, info.brightness); }
-
-std::string show(BrightnessItem* item) {
+static std::string show(BrightnessItem* item) {
   return taken(item, [](const BrightnessItem& curve) {
     std::string text;
     for (const BrightnessPoint& point : curve.points) {
@@ -18,15 +15,14 @@ std::string show(BrightnessItem* item) {
   });
 }
 
-BrightnessItem gCurve = {
+static BrightnessItem gCurve = {
     {{0, 0x110}, {1, 17}, {2, 18}, {3, 19}, {4, 20}, {5, 21}, {6, 22}, {7, 23}}};
 const std::string kCurve =
     "07 01 00 | 17 00 10 00 01 11 00 02 12 00 03 13 00 04 14 00 05 15 00 06 16 00 07 17 00";
 const std::string kCurveReply =
     "2C 01 FF 77 02 02 77 03 03 77 04 04 77 05 05 77 06 06 77 07 07 77 08 09";
 
-const Call kCalls[] = {
-    {CALL(setBrightness(80)), "07 02 50", setting("08")},
+const std::vector<Call> kBrightnessCalls = {
     {CALL(setBrightness(0)), "07 02 00", setting("08")},
     {CALL(setBrightness(255)), "07 02 FF", setting("08")},
     {CALL(setBrightness(256)), "07 02 7D", setting("08")},
@@ -52,9 +48,5 @@ const Call kCalls[] = {
     {CALL(getVolumeValue() & 0xFF), "A9",
      answers("255", {{"A9 C8 07", "200"}, {"A9", "255", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kBrightnessCalls = kCalls;
 
 }  // namespace tovi::test

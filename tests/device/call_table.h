@@ -2,7 +2,6 @@
 // What each method sends and makes of every answer, one row a call.
 #pragma once
 
-#include <span>
 #include <string>
 #include <vector>
 
@@ -52,18 +51,18 @@ Answers unanswered();
 std::string with(const std::string& bytes, const std::string& text);
 
 // The tables, by theme.
-extern const std::span<const Call> kPowerCalls;
-extern const std::span<const Call> kBrightnessCalls;
-extern const std::span<const Call> kTimetablesCalls;
-extern const std::span<const Call> kClockCalls;
-extern const std::span<const Call> kDisplayCalls;
-extern const std::span<const Call> kNowPlayingCalls;
-extern const std::span<const Call> kIdentityCalls;
-extern const std::span<const Call> kNetworkCalls;
-extern const std::span<const Call> kWirelessCalls;
-extern const std::span<const Call> kMaintenanceCalls;
-extern const std::span<const Call> kSecureModeCalls;
-extern const std::span<const Call> kTransferCalls;
+extern const std::vector<Call> kPowerCalls;
+extern const std::vector<Call> kBrightnessCalls;
+extern const std::vector<Call> kTimetablesCalls;
+extern const std::vector<Call> kClockCalls;
+extern const std::vector<Call> kDisplayCalls;
+extern const std::vector<Call> kNowPlayingCalls;
+extern const std::vector<Call> kIdentityCalls;
+extern const std::vector<Call> kNetworkCalls;
+extern const std::vector<Call> kWirelessCalls;
+extern const std::vector<Call> kMaintenanceCalls;
+extern const std::vector<Call> kSecureModeCalls;
+extern const std::vector<Call> kTransferCalls;
 
 // Results as texts that a row can name.
 inline std::string show(int number) { return std::to_string(number); }

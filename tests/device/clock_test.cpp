@@ -6,24 +6,21 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
-
-std::string show(TimeZoneParam* param) {
+static std::string show(TimeZoneParam* param) {
   return taken(param, [](const TimeZoneParam& p) {
     return show(std::to_string(p.time), p.zoneId, p.utcOffset);
   });
 }
 
-std::string show(DeviceNTPParam* param) {
+static std::string show(DeviceNTPParam* param) {
   return taken(param, [](const DeviceNTPParam& p) { return show(p.enabled, p.server); });
 }
 
-std::tm gTime = getTm(124, 0, 2, 3, 4, 5);
-std::tm gLatest = getTm(INT_MAX, INT_MAX, 2, 3, 4, 5);
+static std::tm gTime = getTm(124, 0, 2, 3, 4, 5);
+static std::tm gLatest = getTm(INT_MAX, INT_MAX, 2, 3, 4, 5);
 
-const Call kCalls[] = {
+const std::vector<Call> kClockCalls = {
     {CALL(setTime(&gTime)), "09 E8 07 01 02 03 04 05", setting("0A")},
     {CALL(setTime(&gLatest)), "09 6B 07 00 02 03 04 05", setting("0A")},
     {CALL(setTime(nullptr)), "", {"-15"}},
@@ -42,9 +39,5 @@ const Call kCalls[] = {
      answers("null",
              {{"98 01 6E 00 74", "true n"}, {"98 02 6E", "false n"}, {"98 01", "null", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kClockCalls = kCalls;
 
 }  // namespace tovi::test

@@ -4,19 +4,18 @@
 #include "tests/support/wire.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
+static std::string show(ResolutionInfo i) { return show(i.result, i.resolution); }
+static std::string show(EdidInfo i) { return show(i.result, i.width, i.height, i.fieldRate); }
+static std::string show(VideoControlInfo i) { return show(i.result, i.videoSource); }
+static std::string show(DeviceSize s) { return show(s.width, s.height); }
+static std::string show(TextAttr a) { return show(a.first, a.second, a.third); }
+static std::string show(ScreenPointDetect d) { return show(d.result, d.badPoints); }
+static std::string show(PreStoredScreenEnabled enabled) {
+  return show(enabled.first, enabled.second);
+}
 
-std::string show(ResolutionInfo i) { return show(i.result, i.resolution); }
-std::string show(EdidInfo i) { return show(i.result, i.width, i.height, i.fieldRate); }
-std::string show(VideoControlInfo i) { return show(i.result, i.videoSource); }
-std::string show(DeviceSize s) { return show(s.width, s.height); }
-std::string show(TextAttr a) { return show(a.first, a.second, a.third); }
-std::string show(ScreenPointDetect d) { return show(d.result, d.badPoints); }
-std::string show(PreStoredScreenEnabled enabled) { return show(enabled.first, enabled.second); }
-
-const Call kCalls[] = {
+const std::vector<Call> kDisplayCalls = {
     {CALL(setCustomResolution(1920, -1, 60)),
      with("A5", R"({"displayMode":1,"width":1920,"height":-1,"refreshRate":60})"), setting("A5")},
     {CALL(getCurrentResolution()), "A6",
@@ -85,6 +84,8 @@ const Call kCalls[] = {
                   {"0C 01", "", NoReply}})},
 };
 
+namespace {
+
 class ErrorPoints : public FakePlatformTest {};
 
 TEST_F(ErrorPoints, AreNoMoreThanAnyScreenHas) {
@@ -100,7 +101,5 @@ TEST_F(ErrorPoints, AreNoMoreThanAnyScreenHas) {
 }
 
 }  // namespace
-
-const std::span<const Call> kDisplayCalls = kCalls;
 
 }  // namespace tovi::test

@@ -2,12 +2,9 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
-
-using test::show;
 
 // Date; door, power, screen, temperature, input, ambient, mode, brightness.
-std::string show(DeviceType* status) {
+static std::string show(DeviceType* status) {
   return taken(status, [](const DeviceType& s) {
     const std::tm& date = *s.getDate();
     return show(date.tm_year, date.tm_mon, date.tm_mday, date.tm_hour, date.tm_min, date.tm_sec) +
@@ -18,10 +15,12 @@ std::string show(DeviceType* status) {
   });
 }
 
-std::string show(CpuAndMemoryInfo i) { return show(i.result, i.cpuUsage, i.diskTotal, i.diskFree); }
-std::string show(DeviceMemorySize s) { return show(s.total, s.free); }
+static std::string show(CpuAndMemoryInfo i) {
+  return show(i.result, i.cpuUsage, i.diskTotal, i.diskFree);
+}
+static std::string show(DeviceMemorySize s) { return show(s.total, s.free); }
 
-const Call kCalls[] = {
+const std::vector<Call> kIdentityCalls = {
     {CALL(setDeviceName("ab")), "7E 00 61 62", setting("7F")},
     {CALL(setDeviceName("限速")), "7E 00 E9 99 90 E9 80 9F", setting("7F")},
     {CALL(setDeviceName("")), "7E 00", setting("7F")},
@@ -57,9 +56,5 @@ const Call kCalls[] = {
     {CALL(getSystemInfo()), "C2", text("C2")},
     {CALL(getSurveil()), "A0", text("A0")},
 };
-
-}  // namespace
-
-const std::span<const Call> kIdentityCalls = kCalls;
 
 }  // namespace tovi::test

@@ -2,15 +2,12 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
-
-std::string show(BackUpsInfo* info) {
+static std::string show(BackUpsInfo* info) {
   return taken(info, [](const BackUpsInfo& i) { return show(i.state, i.times); });
 }
 
-const Call kCalls[] = {
+const std::vector<Call> kMaintenanceCalls = {
     {CALL(restartDevice()), "0D", setting("0E")},
     {TELL(sendHeartBeat()), "00 00", unanswered()},
     {CALL(setCloseScreenTemperature(150)), "15 00 00 00 00 00 96", setting("16")},
@@ -38,9 +35,5 @@ const Call kCalls[] = {
     {CALL(getSensorInfo()), "C7", text("C7")},
     {CALL(removeAppPageName("a.b")), "9F 61 2E 62", setting("9F")},
 };
-
-}  // namespace
-
-const std::span<const Call> kMaintenanceCalls = kCalls;
 
 }  // namespace tovi::test

@@ -2,15 +2,14 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
-
-std::string show(VirtualParam param) { return show(param.enabled, param.interval, param.value); }
+static std::string show(VirtualParam param) {
+  return show(param.enabled, param.interval, param.value);
+}
 
 const DeviceNetBasicParam kNet = {"192.168.1.10", "255.255.255.0", "192.168.1.1", 5005, "10.0.0.2"};
 
-const Call kCalls[] = {
+const std::vector<Call> kNetworkCalls = {
     {TELL(setDeviceNetBasicParam(kNet)),
      "19 C0 A8 01 0A FF FF FF 00 C0 A8 01 01 8D 13 0A 00 00 02 00 00 00 00 00 00 00 00",
      unanswered()},
@@ -30,9 +29,5 @@ const Call kCalls[] = {
     {CALL(removeWhitelist("w")), "EF 0B 01 77", confirmation("EF 0B 01")},
     {CALL(getWhitelist()), "EF 09 01", text("EF 09 01")},
 };
-
-}  // namespace
-
-const std::span<const Call> kNetworkCalls = kCalls;
 
 }  // namespace tovi::test

@@ -2,26 +2,23 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
-
-using test::show;
 
 // The record keeps its text.
-std::string content(const char* text) { return text == nullptr ? "null" : text; }
+static std::string content(const char* text) { return text == nullptr ? "null" : text; }
 
-std::string show(DeviceNowPlayItem* item) {
+static std::string show(DeviceNowPlayItem* item) {
   return taken(item, [](const DeviceNowPlayItem& i) {
     return show(i.playIsOpen(), i.getPlayId(), content(i.getContent()));
   });
 }
 
-std::string show(DeviceNowPlayList* list) {
+static std::string show(DeviceNowPlayList* list) {
   return taken(list, [](const DeviceNowPlayList& l) {
     return show(l.getPlayId(), content(l.getContent()));
   });
 }
 
-const Call kCalls[] = {
+const std::vector<Call> kNowPlayingCalls = {
     {CALL(getNowPlayContent()), "2D",
      answers("null", {{"2E 01 77 FF 61 62", "true -1 ab"},
                       {"2E 02 77 07 61", "false 7 a"},
@@ -33,9 +30,5 @@ const Call kCalls[] = {
                       {"3B 05", "5 null"},
                       {"3B", "null", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kNowPlayingCalls = kCalls;
 
 }  // namespace tovi::test

@@ -2,9 +2,8 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-const Call kCalls[] = {
+const std::vector<Call> kPowerCalls = {
     {CALL(setPower(true)), "05 01", setting("06")},
     {CALL(setPower(false)), "05 02", setting("06")},
     {CALL(setBoardPower(true)), "84 01", setting("85")},
@@ -19,9 +18,5 @@ const Call kCalls[] = {
     {CALL(getScreenStatus()), "BA",
      answers("-1", {{"BA 01", "1"}, {"BA 00", "2"}, {"BA FF 01", "2"}, {"BA", "-1", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kPowerCalls = kCalls;
 
 }  // namespace tovi::test

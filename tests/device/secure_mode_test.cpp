@@ -4,14 +4,13 @@
 #include "tests/support/wire.h"
 
 namespace tovi::test {
-namespace {
 
 constexpr char kKey[] = "12345678";
 const std::string kKeyBytes = " 31 32 33 34 35 36 37 38";
 
 using Param = DeviceSecretParam;
 
-const Call kCalls[] = {
+const std::vector<Call> kSecureModeCalls = {
     {CALL(getIsSecret()), "EF 0C 01", question("EF 0C 01")},
     {CALL(setDeviceKey("k")), "EF 03 01 6B",
      answers("false", {{"EF 03 01 01", "true"},
@@ -33,6 +32,8 @@ const Call kCalls[] = {
     {CALL(setDeviceSecretParam(Param{"l", 0, true, "", "1234567"}, true)), "", {"-15"}},
     {CALL(setDeviceSecretParam(Param{"l", 0, true, "", "123456789"}, true)), "", {"-15"}},
 };
+
+namespace {
 
 class SecureMode : public FakePlatformTest {
  protected:
@@ -61,7 +62,5 @@ TEST_F(SecureMode, AcceptanceMakesTheNextReplyChooseItsCipherAnew) {
 }
 
 }  // namespace
-
-const std::span<const Call> kSecureModeCalls = kCalls;
 
 }  // namespace tovi::test

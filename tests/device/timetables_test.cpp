@@ -4,19 +4,18 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
-
-std::string show(const std::tm& time) {
+static std::string show(const std::tm& time) {
   return show(time.tm_year, time.tm_mon, time.tm_mday, time.tm_hour, time.tm_min, time.tm_sec);
 }
-std::string tail(const DevicePowerByTimeParam&) { return ""; }
-std::string tail(const PlayByTimeParam& entry) { return " plays " + show(entry.playId); }
-std::string tail(const BrightnessByTimeParam& entry) { return " at " + show(entry.brightness); }
+static std::string tail(const DevicePowerByTimeParam&) { return ""; }
+static std::string tail(const PlayByTimeParam& entry) { return " plays " + show(entry.playId); }
+static std::string tail(const BrightnessByTimeParam& entry) {
+  return " at " + show(entry.brightness);
+}
 
 template <class Entry>
-std::string show(std::list<Entry>* entries) {
+static std::string show(std::list<Entry>* entries) {
   return taken(entries, [](const std::list<Entry>& list) {
     std::string text = show(static_cast<int>(list.size()));
     for (const Entry& entry : list) {
@@ -32,7 +31,7 @@ const std::tm kEnd = getTm(2025, 12, 31, 23, 59, 58);
 const std::string kEntry = " 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17";
 const std::string kTimes = "; 124 0 2 3 4 5 to 125 11 31 23 59 58";
 
-const Call kCalls[] = {
+const std::vector<Call> kTimetablesCalls = {
     {CALL(setDevicePowerByTimeList({{kStart, kEnd}})), "8A 01" + kEntry, setting("8B")},
     {CALL(setDevicePowerByTimeList({})), "8A 00", setting("8B")},
     {CALL(getDevicePowerByTimeList()), "52",
@@ -62,9 +61,5 @@ const Call kCalls[] = {
     {CALL(getAdvanceTiming()), "DD 01", text("DD")},
     {CALL(removeAdvanceTiming()), "DE 01", setting("DE")},
 };
-
-}  // namespace
-
-const std::span<const Call> kTimetablesCalls = kCalls;
 
 }  // namespace tovi::test

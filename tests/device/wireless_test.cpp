@@ -2,13 +2,10 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using test::show;
+static std::string show(ResultParam info) { return show(info.result, info.text); }
 
-std::string show(ResultParam info) { return show(info.result, info.text); }
-
-const Call kCalls[] = {
+const std::vector<Call> kWirelessCalls = {
     {CALL(setWifiState(true)), "CB 01", flag("CB")},
     {CALL(setWifiState(false)), "CB 00", flag("CB")},
     {CALL(getWifiState()), "CA", signedByte("CA")},
@@ -32,9 +29,5 @@ const Call kCalls[] = {
     {CALL(getRDSRoad()), "9A 01",
      answers("", {{"9A 01 00 09", "\xCA\x31\x30\x39"}, {"9A", "\xCA"}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kWirelessCalls = kCalls;
 
 }  // namespace tovi::test
