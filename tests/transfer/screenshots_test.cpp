@@ -123,9 +123,6 @@ TEST_F(Screenshot, NeedsAFileBeforeAnythingElse) {
     EXPECT_EQ(mTraffic.lastOutcome(), c.outcome) << c.path;
   }
   EXPECT_EQ(fake().opened, 0);
-}
-
-TEST_F(Screenshot, LeavesAnEmptyFileWithoutAConnection) {
   fake().connectFails = true;
   EXPECT_EQ(take(), -1);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoConnection);

@@ -8,17 +8,14 @@
 #include <sstream>
 
 namespace tovi::test {
-namespace {
 
-using test::show;
-
-std::string show(const std::list<int>& numbers) {
+static std::string show(const std::list<int>& numbers) {
   std::string text;
   for (const int number : numbers) text += show(number) + ",";
   return text;
 }
 
-std::string show(const std::list<std::string>& names) {
+static std::string show(const std::list<std::string>& names) {
   std::string text;
   for (const std::string& name : names) text += "<" + name + ">";
   return text;
@@ -31,7 +28,7 @@ const Answers kDownload = {"false",
                             {"AB | AB 01", "false", BadReply},
                             {"AB 02", "false", NoReply}}};
 
-const Call kCalls[] = {
+const std::vector<Call> kTransferCalls = {
     {CALL(playListById(0x1C8)), "1B C8", setting("1C")},
     {CALL(deletePlaylistById(7)), "AE 07", flag("AE")},
     {CALL(getAllPlaylistId()), "A7", answers("", {{"A7 01 05 E7 00", "1,5,-25,0,"}, {"A7", ""}})},
@@ -56,6 +53,8 @@ const Call kCalls[] = {
     {CALL(clearCache()), "EF 15 01", confirmation("EF 15 01")},
     {CALL(downloadFiles("[]")), "AB 5B 5D", kDownload},
 };
+
+namespace {
 
 class Downloads : public FakePlatformTest {
  protected:
@@ -85,7 +84,5 @@ TEST_F(Downloads, ThatAreNeverDoneAreGivenUp) {
 }
 
 }  // namespace
-
-const std::span<const Call> kTransferCalls = kCalls;
 
 }  // namespace tovi::test
