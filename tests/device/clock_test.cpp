@@ -27,6 +27,8 @@ const std::vector<Call> kClockCalls = {
     {CALL(setTimeAndTimeZone({-17, "A/B", "GMT+08:00"})), with("95", "-17,A/B,GMT+08:00"),
      setting("95")},
     {CALL(setTimeAndTimeZone({1, "A b", "GMT"})), with("95", "1,A"), setting("95")},
+    {CALL(setTimeAndTimeZone({1, "A\tb", "GMT"})), with("95", "1,A"), setting("95")},
+    {CALL(setTimeAndTimeZone({1, "A\nb", "GMT"})), with("95", "1,A"), setting("95")},
     {CALL(setTimeAndTimeZone({1, "A", "G\r"})), with("95", "1,A,G"), setting("95")},
     {CALL(getTimeAndTimeZone()), "96",
      answers("null", {{with("96", "1700000000000,UTC,GMT,x"), "1700000000000 UTC GMT"},

@@ -46,7 +46,7 @@ const std::vector<Call> kDisplayCalls = {
                      {with("A1 01", R"({"videoSource":-2147483648})"), "1 -2147483648"},
                      {with("A1 01", R"({"videoSource":-2147483649})"), "1 0", BadReply},
                      {with("A1 01", R"({"videoSource":1.5e9})"), "1 1500000000"},
-                     {with("A1 01", R"({"videoSource":" +7x"})"), "1 7"},
+                     {with("A1 01", R"({"videoSource":"\t\n\f\r +7x"})"), "1 7"},
                      {with("A1 01", R"({"videoSource":"99999999999x"})"), "1 0", BadReply},
                      {with("A1 01", R"({"videoSource":"x"})"), "1 0"},
                      {with("A1 01", "{}"), "1 0"}})},
@@ -88,12 +88,15 @@ namespace {
 
 class ErrorPoints : public FakePlatformTest {};
 
-TEST_F(ErrorPoints, AreNoMoreThanAnyScreenHas) {
+TEST_F(ErrorPoints, AreNoMoreThanAnyScreenHasAndOneReplyToHosts) {
   tovi_set_log_level(4);
   for (const char* reply : {"0C 01", "37 01 FF 7F"}) fake().arrive(frame(reply));
   for (int i = 0; i < 4097; ++i) fake().arrive(frame("37 61"));
   ToviTraffic traffic("127.0.0.1", 5005);
+  testing::internal::CaptureStdout();
   EXPECT_EQ(traffic.getDetectErrorPointInfo(), std::string(4096, 'a'));
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "SocketResult delete\nSocketResult delete\nSocketResult delete\n");
   EXPECT_EQ(traffic.lastOutcome(), Done);
   EXPECT_EQ(fake().incoming.size(), 1u);
   EXPECT_EQ(fake().receiveSizes.front(), 100u);

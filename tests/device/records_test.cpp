@@ -29,6 +29,10 @@ TEST(Records, AreReleasedOnceAndNullSafely) {
   expectReleased(new DeviceNTPParam);
   DeviceType* status = new DeviceType;
   EXPECT_EQ(status->getDate(), nullptr);
+  EXPECT_FALSE(status->isBoxDoorOpen() || status->isScreenPowerOpen() || status->isScreenOpen() ||
+               status->getTemperature() || status->isInputSourceInside() ||
+               status->getEnvironmentBrightness() || status->getBrightnessType() ||
+               status->getScreenBrightness());
   status->setDate(new std::tm{});
   expectReleased(status);
   expectReleased(new DeviceNowPlayItem(true, 1, newText("text")));

@@ -138,6 +138,7 @@ TEST_F(FileSending, EndsBeforeAnythingIsSentWithoutArgumentsOrAConnection) {
   fake().connectFails = true;
   EXPECT_EQ(send(mTraffic, path, 1), -1);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoConnection);
+  EXPECT_TRUE(fake().logged("error sendFile socket error"));
   EXPECT_TRUE(fake().sent.empty());
 }
 
@@ -156,6 +157,7 @@ TEST_F(FileSending, FindsOutAboutTheFileOnceTheNameIsAcknowledged) {
     EXPECT_EQ(send(mTraffic, path, 1), -13) << path;
     EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
     EXPECT_EQ(fake().sent.size(), 1u) << path;
+    EXPECT_TRUE(fake().logged("error ToviTraffic::sendFileContent cannot read " + path));
   }
 }
 

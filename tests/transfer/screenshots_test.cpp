@@ -80,6 +80,7 @@ TEST_F(Screenshot, CutShortIsNoSuccess) {
   fake().arrive(fullPiece());
   EXPECT_EQ(take(), -11);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoReply);
+  EXPECT_TRUE(fake().logged("error ToviTraffic::getDeviceScreenshot piece 2 did not come"));
   EXPECT_EQ(mPicture, std::string(65535, 'x'));
 
   fake().sendFails = true;
@@ -135,6 +136,7 @@ TEST_F(Screenshot, OnAFullDiskIsALocalFailure) {
   fake().arrive(frame("81 00 00 70"));
   EXPECT_EQ(mTraffic.getDeviceScreenshot(fullDisk), -13);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
+  EXPECT_TRUE(fake().logged("error ToviTraffic::getDeviceScreenshot cannot write /dev/full"));
   EXPECT_EQ(fake().closed, 1);
 }
 

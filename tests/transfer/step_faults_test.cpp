@@ -5,8 +5,8 @@
 #include "tests/support/wire.h"
 #include "tests/transfer/temporary_folder.h"
 
+#include <algorithm>
 #include <functional>
-#include <string_view>
 
 #include <tovisdk/tovisdk.h>
 
@@ -66,35 +66,34 @@ const Fault kFaults[] = {
 
 class StepFaults : public FakePlatformTest {
  protected:
-  StepFaults() { tovi_set_log_level(4); }
+  StepFaults() {
+    tovi_set_log_callback(
+        [](void* user, int, const char* record) {
+          Log& log = *static_cast<Log*>(user);
+          log.records.emplace_back(record);
+          const bool answer = log.records.back() == "ToviTraffic::recv recv buf end";
+          if (answer && --log.answersLeft == 0) fakePlatform().sendFails = true;
+        },
+        &mLog);
+  }
+  ~StepFaults() override { tovi_set_log_callback(nullptr, nullptr); }
 
   using Upload = std::function<int(ToviTraffic&)>;
 
   // Nothing can be sent any more once so many answers have come.
   void breakAfter(std::size_t answers) {
-    mAnswersLeft = answers;
+    mLog.answersLeft = answers;
     fake().sendFails = answers == 0;
-    tovi_set_log_level(0);
-    tovi_set_log_callback(
-        [](void* left, int, const char* record) {
-          if (std::string_view(record) != "ToviTraffic::recv recv buf end") return;
-          if (--*static_cast<std::size_t*>(left) == 0) fakePlatform().sendFails = true;
-        },
-        &mAnswersLeft);
   }
 
-  void mend() {
-    fake().sendFails = false;
-    tovi_set_log_callback(nullptr, nullptr);
-    tovi_set_log_level(4);
-  }
-
-  // Runs an upload against what was scripted, and sees that it gives everything back.
+  // Runs an upload against what was scripted, and sees that it gives everything back and that the
+  // log tells what failed.
   void expect(const Upload& upload, int result, ToviOutcome outcome, std::size_t sent,
               const std::string& what) {
     const std::size_t descriptors = openDescriptors();
     fake().opened = fake().closed = 0;
     fake().sent.clear();
+    mLog.records.clear();
     ToviTraffic traffic("127.0.0.1", 5005);
     traffic.setDesKey("no key");  // which ends otherwise
     EXPECT_EQ(upload(traffic), result) << what;
@@ -103,7 +102,13 @@ class StepFaults : public FakePlatformTest {
     EXPECT_EQ(fake().opened, 1) << what;
     EXPECT_EQ(fake().closed, 1) << what;
     EXPECT_EQ(openDescriptors(), descriptors) << what;
+    const std::string end = ", result = " + std::to_string(result);
+    EXPECT_EQ(std::any_of(mLog.records.begin(), mLog.records.end(),
+                          [&](const std::string& record) { return record.ends_with(end); }),
+              result < 0)
+        << what;
     fake().incoming.clear();
+    fake().sendFails = false;
   }
 
   void failEachStep(const Upload& upload, const std::vector<Step>& steps) {
@@ -122,7 +127,6 @@ class StepFaults : public FakePlatformTest {
       breakAfter(failing);
       expect(upload, step.noReply, step.asks ? ToviOutcome::SendFailed : ToviOutcome::NoReply,
              step.sent - (step.asks ? 1 : 0), std::string(step.what) + " unsent");
-      mend();
       scriptStepsBefore();
       fake().arrive(frame(step.refused));
       expect(upload, step.rejected, ToviOutcome::Rejected, step.sent,
@@ -132,7 +136,10 @@ class StepFaults : public FakePlatformTest {
     expect(upload, 1, ToviOutcome::Done, 3, "no fault");
   }
 
-  std::size_t mAnswersLeft = 0;
+  struct Log {
+    std::vector<std::string> records;
+    std::size_t answersLeft = 0;
+  } mLog;
   TemporaryFolder mFolder;
   const std::string mFile = mFolder.file(std::string(70000, 'x'));
   const Upload mSendFile = [this](ToviTraffic& traffic) {
