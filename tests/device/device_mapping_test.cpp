@@ -22,18 +22,14 @@ std::string summary(const char* text) {
   return out;
 }
 
-TEST(DeviceMapping, ReadsRecordsInOrder) {
-  EXPECT_EQ(summary(R"([{"devMappingList":[{"devIndex":"2","devType":"11"},)"
-                    R"({"devIndex":"1","devType":"-3"}],"devWorkStatus":"1"},)"
-                    R"({"devWorkStatus":"4","devMappingList":[]}])"),
-            "2:11 1:-3 status 1; status 4; ");
-}
-
-TEST(DeviceMapping, TakesWhatIsMissingOrOddAsEmpty) {
+TEST(DeviceMapping, ReadsRecordsInOrderAndWhatIsOddAsEmpty) {
   const struct {
     const char* text;
     const char* expected;
   } cases[] = {
+      {R"([{"devMappingList":[{"devIndex":"2","devType":"11"},{"devIndex":"1","devType":"-3"}],)"
+       R"("devWorkStatus":"1"},{"devWorkStatus":"4","devMappingList":[]}])",
+       "2:11 1:-3 status 1; status 4; "},
       {"", ""},
       {"[]", ""},
       {R"({"devWorkStatus":"1"})", ""},
@@ -41,6 +37,7 @@ TEST(DeviceMapping, TakesWhatIsMissingOrOddAsEmpty) {
       {R"([{"devMappingList":{"devIndex":"1"},"devWorkStatus":[1]}])", "status 0; "},
       {R"([{"devMappingList":[{"devIndex":5},{"devType":"6x"},"7",[]],"devWorkStatus":3}])",
        "5:0 0:6 0:0 0:0 status 3; "},
+      {R"([{"devWorkStatus":"4294967297"}])", "status 0; "},
   };
   for (const auto& [text, expected] : cases) EXPECT_EQ(summary(text), expected) << text;
 }

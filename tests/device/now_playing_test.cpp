@@ -2,45 +2,33 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using T = ToviTraffic;
+// The record keeps its text.
+static std::string content(const char* text) { return text == nullptr ? "null" : text; }
 
-std::string taken(DeviceNowPlayItem* item) {
-  if (item == nullptr) return "null";
-  const std::string content = item->getContent() == nullptr ? "null" : item->getContent();
-  const std::string text = show(int{item->playIsOpen()}, item->getPlayId(), content);
-  deleteObj(&item);
-  return text;
+static std::string show(DeviceNowPlayItem* item) {
+  return taken(item, [](const DeviceNowPlayItem& i) {
+    return show(i.playIsOpen(), i.getPlayId(), content(i.getContent()));
+  });
 }
 
-std::string taken(DeviceNowPlayList* list) {
-  if (list == nullptr) return "null";
-  const std::string content = list->getContent() == nullptr ? "null" : list->getContent();
-  const std::string text = show(list->getPlayId(), content);
-  deleteObj(&list);
-  return text;
+static std::string show(DeviceNowPlayList* list) {
+  return taken(list, [](const DeviceNowPlayList& l) {
+    return show(l.getPlayId(), content(l.getContent()));
+  });
 }
 
-const Call kCalls[] = {
-    {"getNowPlayContent", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
-     "2E 01 77 FF 61 62", "1 -1 ab"},
-    {"getNowPlayContent stopped", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
-     "2E 02 77 07 61", "0 7 a"},
-    {"getNowPlayContent without text", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
-     "2E 01 77 80", "1 -128 null"},
-    {"getNowPlayContent of three bytes", [](T& t) { return taken(t.getNowPlayContent()); }, "2D",
-     "2E 01 77", "null", BadReply},
-    {"getNowPlayAllContent", [](T& t) { return taken(t.getNowPlayAllContent()); }, "3A",
-     "3B FF 61 62", "-1 ab"},
-    {"getNowPlayAllContent without text", [](T& t) { return taken(t.getNowPlayAllContent()); },
-     "3A", "3B 05", "5 null"},
-    {"getNowPlayAllContent of one byte", [](T& t) { return taken(t.getNowPlayAllContent()); }, "3A",
-     "3B", "null", BadReply},
+const std::vector<Call> kNowPlayingCalls = {
+    {CALL(getNowPlayContent()), "2D",
+     answers("null", {{"2E 01 77 FF 61 62", "true -1 ab"},
+                      {"2E 02 77 07 61", "false 7 a"},
+                      {"2E 01 77 80", "true -128 null"},
+                      {"2E 01 77", "null", BadReply}})},
+    {CALL(getNowPlayAllContent()), "3A",
+     answers("null", {{"3B FF 61 62", "-1 ab"},
+                      {"3B 05 61", "5 a"},
+                      {"3B 05", "5 null"},
+                      {"3B", "null", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kNowPlayingCalls = kCalls;
 
 }  // namespace tovi::test

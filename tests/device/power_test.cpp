@@ -2,45 +2,21 @@
 #include "tests/device/call_table.h"
 
 namespace tovi::test {
-namespace {
 
-using T = ToviTraffic;
-
-const Call kCalls[] = {
-    {"setPower on", [](T& t) { return show(t.setPower(true)); }, "05 01", "06 01", "1"},
-    {"setPower", [](T& t) { return show(t.setPower(false)); }, "05 02", "06 01", "1"},
-    {"setBoardPower on", [](T& t) { return show(t.setBoardPower(true)); }, "84 01", "85 01", "1"},
-    {"setBoardPower off", [](T& t) { return show(t.setBoardPower(false)); }, "84 02", "85 00",
-     "-12", Rejected},
-    {"setBoardPowerAndScreenPower on",
-     [](T& t) { return show(t.setBoardPowerAndScreenPower(true)); }, "25 01", "26 01", "1"},
-    {"setBoardPowerAndScreenPower off",
-     [](T& t) { return show(t.setBoardPowerAndScreenPower(false)); }, "25 00", "26 01", "1"},
-    {"setMultiFunctionCardPower",
-     [](T& t) { return show(t.setMultiFunctionCardPower(0x102, -1, true)); }, "86 02 FF 01",
-     "87 01", "1"},
-    {"setRelayPowers", [](T& t) { return show(t.setRelayPowers(true, false, false, true)); },
-     "9E 01 02 02 01", "9E 01", "1"},
-    {"getPowerState on", [](T& t) { return show(t.getPowerState()); }, "EF 14 01", "EF 14 01 01",
-     "1"},
-    {"getPowerState off", [](T& t) { return show(t.getPowerState()); }, "EF 14 01", "EF 14 01 00",
-     "0"},
-    {"getPowerState short", [](T& t) { return show(t.getPowerState()); }, "EF 14 01", "EF 14 01",
-     "0"},
-    {"getPowerState silent", [](T& t) { return show(t.getPowerState()); }, "EF 14 01", "", "-1",
-     NoReply},
-    {"getScreenStatus on", [](T& t) { return show(t.getScreenStatus()); }, "BA", "BA 01", "1"},
-    {"getScreenStatus off", [](T& t) { return show(t.getScreenStatus()); }, "BA", "BA 00", "2"},
-    {"getScreenStatus other", [](T& t) { return show(t.getScreenStatus()); }, "BA", "BA FF 01",
-     "2"},
-    {"getScreenStatus short", [](T& t) { return show(t.getScreenStatus()); }, "BA", "BA", "-1",
-     BadReply},
-    {"getScreenStatus silent", [](T& t) { return show(t.getScreenStatus()); }, "BA", "", "-1",
-     NoReply},
+const std::vector<Call> kPowerCalls = {
+    {CALL(setPower(true)), "05 01", setting("06")},
+    {CALL(setPower(false)), "05 02", setting("06")},
+    {CALL(setBoardPower(true)), "84 01", setting("85")},
+    {CALL(setBoardPower(false)), "84 02", setting("85")},
+    {CALL(setBoardPowerAndScreenPower(true)), "25 01", setting("26")},
+    {CALL(setBoardPowerAndScreenPower(false)), "25 00", setting("26")},
+    {CALL(setMultiFunctionCardPower(0x102, -1, true)), "86 02 FF 01", setting("87")},
+    {CALL(setMultiFunctionCardPower(1, 2, false)), "86 01 02 00", setting("87")},
+    {CALL(setRelayPowers(true, false, false, true)), "9E 01 02 02 01", setting("9E")},
+    {CALL(setRelayPowers(true, true, false, false)), "9E 01 01 02 02", setting("9E")},
+    {CALL(getPowerState()), "EF 14 01", question("EF 14 01")},
+    {CALL(getScreenStatus()), "BA",
+     answers("-1", {{"BA 01", "1"}, {"BA 00", "2"}, {"BA FF 01", "2"}, {"BA", "-1", BadReply}})},
 };
-
-}  // namespace
-
-const std::span<const Call> kPowerCalls = kCalls;
 
 }  // namespace tovi::test

@@ -7,9 +7,7 @@
 
 #include <tovisdk/tovisdk.h>
 
-#include "tests/support/fake_platform_test.h"
-#include "tests/support/test_access.h"
-#include "tests/support/wire.h"
+#include "tests/support/heap_probe.h"
 
 namespace {
 
@@ -24,11 +22,17 @@ void expectReleased(T* object) {
 }
 
 TEST(Records, AreReleasedOnceAndNullSafely) {
-  expectReleased(new BackUpsInfo);
+  const long blocks = tovi::test::heapBlocksOfThisThread();
+  expectReleased(new BackUpsInfo{1, std::string(100, 't')});
   expectReleased(new BrightnessItem);
   expectReleased(new TimeZoneParam);
   expectReleased(new DeviceNTPParam);
   DeviceType* status = new DeviceType;
+  EXPECT_EQ(status->getDate(), nullptr);
+  EXPECT_FALSE(status->isBoxDoorOpen() || status->isScreenPowerOpen() || status->isScreenOpen() ||
+               status->getTemperature() || status->isInputSourceInside() ||
+               status->getEnvironmentBrightness() || status->getBrightnessType() ||
+               status->getScreenBrightness());
   status->setDate(new std::tm{});
   expectReleased(status);
   expectReleased(new DeviceNowPlayItem(true, 1, newText("text")));
@@ -37,48 +41,30 @@ TEST(Records, AreReleasedOnceAndNullSafely) {
   expectReleased(new std::list<DevicePowerByTimeParam>(3));
   expectReleased(new std::list<PlayByTimeParam>(3));
   expectReleased(new std::list<BrightnessByTimeParam>(3));
+  EXPECT_EQ(tovi::test::heapBlocksOfThisThread(), blocks);
 }
 
-// A list would copy them without a word, and two would release the same array.
-TEST(Records, AreNotCopiedIntoOthers) {
-  EXPECT_FALSE(std::is_copy_constructible_v<DeviceType>);
-  EXPECT_FALSE(std::is_copy_constructible_v<SocketResult>);
-  EXPECT_FALSE(std::is_copy_constructible_v<DeviceNowPlayItem>);
-  EXPECT_FALSE(std::is_copy_constructible_v<DeviceNowPlayList>);
-  EXPECT_TRUE(std::is_copy_assignable_v<DeviceType>);
-  EXPECT_TRUE(std::is_copy_assignable_v<SocketResult>);
+// A list would copy them without a word, and two would release the same memory.
+template <class T>
+void expectOnlyAssigned() {
+  EXPECT_FALSE(std::is_copy_constructible_v<T>);
+  EXPECT_TRUE(std::is_copy_assignable_v<T>);
 }
 
-TEST(Records, CopiesOfPlayingItemsShareTheirText) {
+TEST(Records, ThatOwnMemoryAreAssignedAndShareIt) {
+  expectOnlyAssigned<DeviceType>();
+  expectOnlyAssigned<SocketResult>();
+  expectOnlyAssigned<DeviceNowPlayItem>();
+  expectOnlyAssigned<DeviceNowPlayList>();
+  EXPECT_FALSE(std::is_copy_constructible_v<ToviTraffic>);
+  EXPECT_FALSE(std::is_copy_constructible_v<ProtocalParser>);
+
   DeviceNowPlayItem item(true, 1, newText("text"));
   DeviceNowPlayItem* copy = new DeviceNowPlayItem(false, 2, nullptr);
   *copy = item;
   EXPECT_EQ(copy->getContent(), item.getContent());
   EXPECT_EQ(copy->getPlayId(), 1);
   ::operator delete(copy);  // without its destructor: one of the two may be destroyed
-}
-
-class SecureMode : public tovi::test::FakePlatformTest {};
-
-TEST_F(SecureMode, AcceptanceMakesTheNextReplyChooseItsCipherAnew) {
-  ToviTraffic traffic("127.0.0.1", 5005);
-  fake().arrive(tovi::test::frame("71 01"));
-  EXPECT_EQ(traffic.setDeviceSecretParam({"l", 0, true, "", ""}, false), 1);
-  // The parser that read the answer was a plain one; the next is made for the key.
-  traffic.setDesKey("12345678");
-  fake().files.clear();
-  fake().arrive(tovi::test::frame("08 DE EC BA 37 86 7B D1 42"));
-  EXPECT_EQ(traffic.setBrightness(80), 1);
-  EXPECT_TRUE(
-      fake().logged("info ToviTraffic::recv create protocalParser des mode, des key = 12345678"));
-
-  fake().arrive(tovi::test::frame("71 00"));
-  EXPECT_EQ(traffic.setDeviceSecretParam({"l", 0, true, "", ""}, false), -12);
-  fake().files.clear();
-  fake().arrive(tovi::test::frame("08 DE EC BA 37 86 7B D1 42"));
-  EXPECT_EQ(traffic.setBrightness(80), 1);
-  EXPECT_FALSE(
-      fake().logged("info ToviTraffic::recv create protocalParser des mode, des key = 12345678"));
 }
 
 }  // namespace

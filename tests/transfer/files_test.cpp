@@ -51,42 +51,29 @@ class FileSending : public FakePlatformTest {
     return chunks;
   }
 
-  void expectNothingLeft() { EXPECT_EQ(fake().closed, fake().opened); }
+  // Sends a file to a controller that accepts so many chunks of it, and sees everything given back.
+  int send(ToviTraffic& traffic, const std::string& path, int chunks,
+           const ToviTraffic::Progress& progress = {}) {
+    const std::size_t descriptors = openDescriptors();
+    traffic.discardKeptBytes();
+    acceptFile(chunks);
+    const int result = traffic.sendFile(path.c_str(), "a.bin", progress);
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(fake().closed, fake().opened);
+    return result;
+  }
 
   TemporaryFolder mFolder;
   ToviTraffic mTraffic{"127.0.0.1", 5005};
 };
 
 TEST_F(FileSending, IsTheNameTheChunksAndTheEnd) {
-  struct {
-    void (ToviTraffic::*setKey)(const char*);
-    const char* name;
-    const char* chunk;
-  } const cases[] = {
-      {nullptr, "AA FF FF 11 FF FF 61 2E 62 69 6E CC 9F 64",
-       "AA FF FF 13 01 00 30 31 32 33 34 35 36 37 38 39 CC 9C FD"},
-      {&ToviTraffic::setDesKey, "AA FF FF 11 8F C4 4B 15 2F 2C 54 DF CC EA 2B",
-       "AA FF FF 13 C1 65 FE F0 C2 49 F5 A6 B2 25 36 D1 71 8D 39 D7 CC D5 58"},
-      {&ToviTraffic::setAesKey,
-       "AA FF FF 11 63 11 1E 21 4C F9 BD EE 0A 2E C9 26 ED 8D DA E7 DE CC F6 D0",
-       "AA FF FF 13 BE 24 A4 C4 F3 9D FD F3 1C 09 76 B9 C2 07 E9 FC CC 51 A3"},
-      {&ToviTraffic::setSM4Key,
-       "AA FF FF 11 3E E7 8D 81 53 1A DD ED BD 69 7A 98 73 7A 1C B2 CC 42 31",
-       "AA FF FF 13 04 51 91 30 E4 63 A1 4D 8F 51 37 0A 5E AE BD 6F CC A9 F0"},
-  };
-  const std::string path = mFolder.file("0123456789");
-  for (const auto& c : cases) {
-    ToviTraffic traffic("127.0.0.1", 5005);
-    if (c.setKey != nullptr) (traffic.*c.setKey)("12345678");
-    acceptFile(1);
-    EXPECT_EQ(traffic.sendFile(path.c_str(), "a.bin"), 1) << c.name;
-    ASSERT_EQ(fake().sent.size(), 2u);
-    EXPECT_EQ(toHex(fake().sent[0]), c.name);
-    EXPECT_EQ(toHex(fake().sent[1]), c.chunk);
-    EXPECT_TRUE(fake().incoming.empty());
-  }
+  EXPECT_EQ(send(mTraffic, mFolder.file("0123456789"), 1), 1);
+  ASSERT_EQ(fake().sent.size(), 2u);
+  EXPECT_EQ(toHex(fake().sent[0]), "AA FF FF 11 FF FF 61 2E 62 69 6E CC 9F 64");
+  EXPECT_EQ(toHex(fake().sent[1]), "AA FF FF 13 01 00 30 31 32 33 34 35 36 37 38 39 CC 9C FD");
+  EXPECT_TRUE(fake().incoming.empty());
   EXPECT_TRUE(fake().logged("info sendFile start"));
-  expectNothingLeft();
 }
 
 TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
@@ -105,8 +92,7 @@ TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
   };
   for (const auto& c : cases) {
     const std::string content = pattern(c.size);
-    acceptFile(static_cast<int>(c.chunks.size()));
-    EXPECT_EQ(mTraffic.sendFile(mFolder.file(content).c_str(), "a.bin"), 1) << c.size;
+    EXPECT_EQ(send(mTraffic, mFolder.file(content), static_cast<int>(c.chunks.size())), 1);
     EXPECT_TRUE(fake().incoming.empty()) << c.size;
     std::vector<std::size_t> sizes;
     std::string received;
@@ -122,54 +108,45 @@ TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
 
 TEST_F(FileSending, TakesSmallerChunksWhileAKeyIsSet) {
   tovi_set_log_level(4);
-  struct {
-    std::size_t size;
-    std::vector<std::size_t> des;  // enciphered: number, data and padding
-    std::vector<std::size_t> others;
-  } const cases[] = {
-      {65516, {65520}, {65520}},
-      {65517, {65520, 8}, {65520, 16}},
-      {65518, {65520, 8}, {65520, 16}},
-      {65535, {65520, 24}, {65520, 32}},
-  };
-  for (const auto& c : cases) {
-    const std::string path = mFolder.file(pattern(c.size));
-    for (const auto setKey :
-         {&ToviTraffic::setDesKey, &ToviTraffic::setAesKey, &ToviTraffic::setSM4Key}) {
-      ToviTraffic traffic("127.0.0.1", 5005);
-      (traffic.*setKey)("12345678");
-      const std::vector<std::size_t>& chunks = setKey == &ToviTraffic::setDesKey ? c.des : c.others;
-      acceptFile(static_cast<int>(chunks.size()));
-      EXPECT_EQ(traffic.sendFile(path.c_str(), "a.bin"), 1) << c.size;
+  for (const auto& [setKey, block] : {std::pair{&ToviTraffic::setDesKey, std::size_t{8}},
+                                      {&ToviTraffic::setAesKey, std::size_t{16}},
+                                      {&ToviTraffic::setSM4Key, std::size_t{16}}}) {
+    ToviTraffic traffic("127.0.0.1", 5005);
+    (traffic.*setKey)("12345678");
+    // Enciphered: number, data and padding.
+    const std::pair<std::size_t, std::vector<std::size_t>> cases[] = {
+        {65516, {65520}}, {65517, {65520, block}}, {65518, {65520, block}}};
+    for (const auto& [size, chunks] : cases) {
+      const std::string path = mFolder.file(pattern(size));
+      EXPECT_EQ(send(traffic, path, static_cast<int>(chunks.size())), 1);
       std::vector<std::size_t> sizes;
       for (const std::string& chunk : sentChunks()) sizes.push_back(chunk.size());
-      EXPECT_EQ(sizes, chunks) << c.size;
+      EXPECT_EQ(sizes, chunks) << block << " " << size;
     }
   }
 }
 
-TEST_F(FileSending, RefusesArgumentsBeforeAnythingIsSent) {
+TEST_F(FileSending, EndsBeforeAnythingIsSentWithoutArgumentsOrAConnection) {
   const std::string path = mFolder.file("x");
   EXPECT_EQ(mTraffic.sendFile(nullptr, "a.bin"), -15);
+  EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::RefusedArgument);
+  EXPECT_EQ(send(mTraffic, path, 1), 1);
+  EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::Done);
   EXPECT_EQ(mTraffic.sendFile(path.c_str(), nullptr), -15);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::RefusedArgument);
-  EXPECT_EQ(fake().opened, 0);
-  acceptFile(1);
-  EXPECT_EQ(mTraffic.sendFile(path.c_str(), ""), 1);
-  EXPECT_EQ(unframe(fake().sent.at(0)), "11 FF FF");
-}
-
-TEST_F(FileSending, NeedsAConnection) {
+  EXPECT_EQ(fake().opened, 1);
   fake().connectFails = true;
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file("x").c_str(), "a.bin"), -1);
+  EXPECT_EQ(send(mTraffic, path, 1), -1);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoConnection);
-  expectNothingLeft();
+  EXPECT_TRUE(fake().logged("error sendFile socket error"));
+  EXPECT_TRUE(fake().sent.empty());
 }
 
 TEST_F(FileSending, LeavesTheHostsOwnSocketOpen) {
   ToviTraffic traffic(std::uint64_t{42});
   acceptFile(1);
-  EXPECT_EQ(traffic.sendFile(mFolder.file("x").c_str(), "a.bin"), 1);
+  EXPECT_EQ(traffic.sendFile(mFolder.file("x").c_str(), ""), 1);
+  EXPECT_EQ(unframe(fake().sent.at(0)), "11 FF FF");
   EXPECT_EQ(fake().closed, 0);
 }
 
@@ -177,28 +154,24 @@ TEST_F(FileSending, FindsOutAboutTheFileOnceTheNameIsAcknowledged) {
   // The last one is a folder that claims to be of no size, where there is such a thing.
   for (const std::string& path : {mFolder.path("missing"), mFolder.path(), std::string(),
                                   std::string("/proc/self"), mFolder.path(std::string(300, 'x'))}) {
-    acceptFile(1);
-    EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin"), -13) << path;
+    EXPECT_EQ(send(mTraffic, path, 1), -13) << path;
     EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
     EXPECT_EQ(fake().sent.size(), 1u) << path;
-    expectNothingLeft();
-    mTraffic.discardKeptBytes();
+    EXPECT_TRUE(fake().logged("error ToviTraffic::sendFileContent cannot read " + path));
   }
 }
 
 // What is read ahead of its turn is told of in its turn, and only as long as the file still has it.
-TEST_F(FileSending, DoesNotPassOffAShrunkenFileAsWhole) {
+TEST_F(FileSending, TellsOfWhatIsReadAheadInItsTurn) {
   const std::string path = mFolder.file(pattern(200000));
-  acceptFile(3);
   const auto progress = [&](long long sent, long long) {
     tovi_info("host: %lld", sent);
     if (sent > 100000) std::filesystem::resize_file(path, 150000);
     return true;
   };
-  EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin", progress), -13);
+  EXPECT_EQ(send(mTraffic, path, 3, progress), -13);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
   EXPECT_EQ(sentChunks().size(), 2u);
-  expectNothingLeft();
   Lines told;
   for (const std::string& record : fake().log()) {
     for (const char* word : {"makeSendPacket", "recv buf end", "host", "cannot"}) {
@@ -209,50 +182,50 @@ TEST_F(FileSending, DoesNotPassOffAShrunkenFileAsWhole) {
                          "makeSendPacket", "recv buf end", "host", "cannot"}));
 }
 
-TEST_F(FileSending, TellsItsProgress) {
-  Steps steps;
-  const auto note = [&](long long sent, long long total) {
-    steps.emplace_back(sent, total);
-    return true;
-  };
-  acceptFile(3);
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file(pattern(131070)).c_str(), "a.bin", note), 1);
-  EXPECT_EQ(steps, (Steps{{65535, 131070}, {131070, 131070}, {131070, 131070}}));
+// A chunk that is not full would tell the controller that the file ends there.
+TEST_F(FileSending, DoesNotPassOffAShrunkenFileAsWhole) {
+  const std::string path = mFolder.file(pattern(300000));
+  EXPECT_EQ(send(mTraffic, path, 5,
+                 [&](long long, long long) {
+                   std::filesystem::resize_file(path, 170000);
+                   return true;
+                 }),
+            -13);
+  EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::LocalFile);
+  for (const std::string& chunk : sentChunks()) EXPECT_EQ(chunk.size(), 65537u);
+}
 
+TEST_F(FileSending, TellsItsProgressUntilTheHostStopsIt) {
+  const std::string path = mFolder.file(pattern(131070));
+  const Steps whole = {{65535, 131070}, {131070, 131070}, {131070, 131070}};
+  for (const std::ptrdiff_t most : {1, 2, 3, 4}) {
+    Steps steps;
+    const bool stopped = most <= 3;
+    EXPECT_EQ(send(mTraffic, path, 3,
+                   [&](long long sent, long long total) {
+                     steps.emplace_back(sent, total);
+                     return static_cast<std::ptrdiff_t>(steps.size()) < most;
+                   }),
+              stopped ? -16 : 1);
+    EXPECT_EQ(mTraffic.lastOutcome(), stopped ? ToviOutcome::Stopped : ToviOutcome::Done);
+    EXPECT_EQ(steps, Steps(whole.begin(), stopped ? whole.begin() + most : whole.end()));
+    EXPECT_EQ(sentChunks().size(), steps.size());
+  }
   // Only what was acknowledged counts.
-  steps.clear();
-  acceptFile(0);
-  EXPECT_EQ(mTraffic.sendFile(mFolder.file("x").c_str(), "a.bin", note), -5);
-  EXPECT_TRUE(steps.empty());
+  EXPECT_EQ(
+      send(mTraffic, path, 0, [](long long, long long) -> bool { throw std::logic_error("told"); }),
+      -5);
 }
 
 TEST_F(FileSending, TakesWhatCannotBePositioned) {
   constexpr char kUnsized[] = "/proc/self/status";
   if (!std::filesystem::exists(kUnsized)) GTEST_SKIP() << "there is no such file here";
-  acceptFile(1);
   long long total = 0;
   EXPECT_EQ(
-      mTraffic.sendFile(kUnsized, "a", [&](long long, long long all) { return (total = all) < 0; }),
-      1);
+      send(mTraffic, kUnsized, 1, [&](long long, long long all) { return (total = all) < 0; }), 1);
   EXPECT_EQ(total, -1);
   ASSERT_EQ(sentChunks().size(), 1u);
   EXPECT_NE(sentChunks()[0].find("VmRSS"), std::string::npos);
-}
-
-TEST_F(FileSending, StopsWhenTheHostSaysSo) {
-  const std::string path = mFolder.file(pattern(131070));
-  for (const int most : {1, 2, 3}) {
-    int calls = 0;
-    acceptFile(3);
-    EXPECT_EQ(mTraffic.sendFile(path.c_str(), "a.bin",
-                                [&](long long, long long) { return ++calls < most; }),
-              -16);
-    EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::Stopped);
-    EXPECT_EQ(calls, most);
-    EXPECT_EQ(sentChunks().size(), static_cast<std::size_t>(most));
-    expectNothingLeft();
-    mTraffic.discardKeptBytes();
-  }
 }
 
 TEST_F(FileSending, GivesEverythingBackWhenTheHostThrows) {

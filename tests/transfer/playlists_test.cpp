@@ -55,16 +55,14 @@ TEST_F(Playlists, HaveNamesOfElevenCharacters) {
   }
 }
 
-TEST_F(Playlists, AreRefusedBeforeAnythingIsSent) {
+TEST_F(Playlists, EndBeforeAnythingIsSentWithoutATextOrAConnection) {
   EXPECT_EQ(mTraffic.sendPlayList(1, nullptr), -15);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::RefusedArgument);
   EXPECT_EQ(fake().opened, 0);
-}
-
-TEST_F(Playlists, NeedAConnection) {
   fake().connectFails = true;
   EXPECT_EQ(mTraffic.sendPlayList(1, "x"), -14);
   EXPECT_EQ(mTraffic.lastOutcome(), ToviOutcome::NoConnection);
+  EXPECT_TRUE(fake().sent.empty());
 }
 
 }  // namespace
