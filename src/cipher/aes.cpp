@@ -134,12 +134,12 @@ void decryptBlock(const RoundKeys& keys, Block& block) {
 }
 
 template <void (*transform)(const RoundKeys&, Block&)>
-void eachBlock(const RoundKeys& keys, std::span<char> blocks) {
-  for (; !blocks.empty(); blocks = blocks.subspan(kBlockSize)) {
+void eachBlock(const RoundKeys& keys, std::string_view blocks, char* out) {
+  for (; !blocks.empty(); blocks.remove_prefix(kBlockSize), out += kBlockSize) {
     Block block;
     std::copy_n(blocks.data(), kBlockSize, block.data());
     transform(keys, block);
-    std::copy_n(block.data(), kBlockSize, blocks.data());
+    std::copy_n(block.data(), kBlockSize, out);
   }
 }
 
@@ -154,25 +154,25 @@ TOVI_AES_TARGET void store(void* bytes, __m128i value) {
   _mm_storeu_si128(static_cast<__m128i*>(bytes), value);
 }
 
-TOVI_AES_TARGET void hardwareEncrypt(const RoundKeys& keys, std::span<char> blocks) {
+TOVI_AES_TARGET void hardwareEncrypt(const RoundKeys& keys, std::string_view blocks, char* out) {
   __m128i key[kRounds + 1];
   for (std::size_t i = 0; i <= kRounds; ++i) key[i] = load(&keys[i * kBlockSize]);
   for (std::size_t at = 0; at < blocks.size(); at += kBlockSize) {
     __m128i block = _mm_xor_si128(load(&blocks[at]), key[0]);
     for (std::size_t i = 1; i < kRounds; ++i) block = _mm_aesenc_si128(block, key[i]);
-    store(&blocks[at], _mm_aesenclast_si128(block, key[kRounds]));
+    store(out + at, _mm_aesenclast_si128(block, key[kRounds]));
   }
 }
 
 // The decryption instruction mixes columns before it adds the key, so the inner keys are mixed too.
-TOVI_AES_TARGET void hardwareDecrypt(const RoundKeys& keys, std::span<char> blocks) {
+TOVI_AES_TARGET void hardwareDecrypt(const RoundKeys& keys, std::string_view blocks, char* out) {
   __m128i key[kRounds + 1];
   for (std::size_t i = 0; i <= kRounds; ++i) key[i] = load(&keys[i * kBlockSize]);
   for (std::size_t i = 1; i < kRounds; ++i) key[i] = _mm_aesimc_si128(key[i]);
   for (std::size_t at = 0; at < blocks.size(); at += kBlockSize) {
     __m128i block = _mm_xor_si128(load(&blocks[at]), key[kRounds]);
     for (std::size_t i = kRounds - 1; i > 0; --i) block = _mm_aesdec_si128(block, key[i]);
-    store(&blocks[at], _mm_aesdeclast_si128(block, key[0]));
+    store(out + at, _mm_aesdeclast_si128(block, key[0]));
   }
 }
 #endif
@@ -217,9 +217,12 @@ int Aes128::encrypt(std::string_view plain, std::span<char> out) const {
   const std::size_t pad = aes::kBlockSize - plain.size() % aes::kBlockSize;
   const std::size_t total = plain.size() + pad;
   if (out.size() < total + 1) return -1;
-  std::char_traits<char>::move(out.data(), plain.data(), plain.size());
-  std::fill_n(out.data() + plain.size(), pad, static_cast<char>(pad));
-  mEngine->encrypt(mRoundKeys, out.first(total));
+  std::array<char, aes::kBlockSize> last;
+  last.fill(static_cast<char>(pad));
+  const std::size_t whole = total - last.size();
+  plain.copy(last.data(), last.size(), whole);
+  mEngine->encrypt(mRoundKeys, plain.substr(0, whole), out.data());
+  mEngine->encrypt(mRoundKeys, {last.data(), last.size()}, out.data() + whole);
   out[total] = '\0';
   return static_cast<int>(total);
 }
@@ -228,8 +231,7 @@ int Aes128::decrypt(std::string_view ciphered, std::span<char> out) const {
   const std::size_t size = ciphered.size();
   if (!ciphered.data() || size == 0 || size % aes::kBlockSize != 0) return -1;
   if (size > kMaxCipheredSize || out.size() < size + 1) return -1;
-  std::char_traits<char>::move(out.data(), ciphered.data(), size);
-  mEngine->decrypt(mRoundKeys, out.first(size));
+  mEngine->decrypt(mRoundKeys, ciphered, out.data());
   const std::size_t last = static_cast<unsigned char>(out[size - 1]);
   if (last == 0 || last > size) return -1;
   out[size - last] = '\0';

@@ -12,10 +12,10 @@ namespace aes {
 
 using RoundKeys = std::array<std::uint8_t, 176>;
 
-// Transforms whole 16-byte blocks in place, each on its own.
+// Transforms whole 16-byte blocks, each on its own, from one place to another.
 struct Engine {
-  void (*encrypt)(const RoundKeys& keys, std::span<char> blocks);
-  void (*decrypt)(const RoundKeys& keys, std::span<char> blocks);
+  void (*encrypt)(const RoundKeys& keys, std::string_view blocks, char* out);
+  void (*decrypt)(const RoundKeys& keys, std::string_view blocks, char* out);
 };
 
 const Engine& portableEngine();

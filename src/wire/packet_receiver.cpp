@@ -104,7 +104,7 @@ std::string_view Receiver::keptAnd(std::string_view bytes) {
   const auto before = static_cast<std::size_t>(mParser.pending - mParser.room);
   if (before + size > mParser.roomSize) {
     const std::size_t roomSize = std::max(size, std::min(2 * size, kMaxKept));
-    auto array = std::make_unique_for_overwrite<char[]>(roomSize);
+    auto room = std::make_unique_for_overwrite<char[]>(roomSize);
     std::copy_n(mParser.pending, kept, room.get());
     takeRoom(room.release(), roomSize);
   }
