@@ -26,6 +26,21 @@ constexpr std::size_t kCodeSize = 2;  // a 16-bit command code at the start of a
 }  // namespace
 
 std::optional<std::string> Receiver::receive(std::string_view bytes, short what) {
+  std::optional<std::string> found;
+  search(bytes, what, [&](std::string&& package) { found = std::move(package); });
+  return found;
+}
+
+char* Receiver::receiveArray(std::string_view bytes, short what) {
+  char* found = nullptr;
+  search(bytes, what, [&](const std::string& package) { found = newArray(package); });
+  return found;
+}
+
+// Hands over the package that is found before anything else is changed: where there is no memory to
+// take it, it is found again.
+template <class Take>
+void Receiver::search(std::string_view bytes, short what, Take take) {
   // What was searched for the same reply before needs no second look.
   const bool goesOn = mParser.needMore && mParser.pendingLen > 0 && mParser.searchedFor == what;
   mParser.needMore = false;
@@ -39,18 +54,20 @@ std::optional<std::string> Receiver::receive(std::string_view bytes, short what)
   std::size_t start = at - static_cast<std::size_t>(mParser.blockLen);
   while (findFrame(work, start, at)) {
     if (std::optional<std::string> package = open(work.substr(start, at - start), what)) {
+      const auto length = static_cast<int>(package->size());
+      take(*std::move(package));
+      mParser.packageLen = length;
       // A reply in hand is worth more than the bytes behind it.
       if (!tryKeep(work.substr(at))) {
         forget();
         mParser.lostBytes = true;
       }
-      return package;
+      return;
     }
   }
   if (!tryKeep(work.size() > kMaxKept ? unfinished(work, start) : work)) throw std::bad_alloc();
   mParser.needMore = true;
   mParser.searchedFor = what;
-  return std::nullopt;
 }
 
 void Receiver::beginFrame() {
@@ -172,7 +189,6 @@ std::optional<std::string> Receiver::open(std::string_view frame, short what) {
     if (static_cast<signed char>(whatByte) != what) return std::nullopt;
     if (hasCipher() && package.size() > 1 && whatByte != kSecretReply) decipher(package, 1);
   }
-  mParser.packageLen = static_cast<int>(package.size());
   return package;
 }
 
@@ -230,17 +246,8 @@ ProtocalParser::~ProtocalParser() {
 
 char* ProtocalParser::recvProc(char* data, int len, short what) {
   char* const none = nullptr;
-  packageLen = 0;
-  return tovi::whereMemoryAllows(none, [&]() -> char* {
-    const std::string_view bytes = tovi::viewOf(data, len);
-    // Taken before the package is: one that is found and has no room would be lost.
-    auto array = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(pendingLen) +
-                                                        bytes.size() + 1);
-    const std::optional<std::string> package = Receiver(*this).receive(bytes, what);
-    if (!package) return nullptr;
-    package->copy(array.get(), package->size());
-    return array.release();
-  });
+  return tovi::whereMemoryAllows(
+      none, [&] { return Receiver(*this).receiveArray(tovi::viewOf(data, len), what); });
 }
 
 int ProtocalParser::getPackageLen() const { return packageLen; }
@@ -248,5 +255,7 @@ int ProtocalParser::getPackageLen() const { return packageLen; }
 // Kept: the interface names it.
 char* ProtocalParser::recvPackage(char* frame, int len, short what) {
   const auto package = Receiver(*this).open(tovi::viewOf(frame, len), what);
-  return package ? tovi::newArray(*package) : nullptr;
+  if (!package) return nullptr;
+  packageLen = static_cast<int>(package->size());
+  return tovi::newArray(*package);
 }

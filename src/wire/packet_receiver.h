@@ -17,6 +17,9 @@ class Receiver {
   // Adds bytes and looks for the reply to a command; see ProtocalParser::recvProc.
   std::optional<std::string> receive(std::string_view bytes, short what);
 
+  // The same into a new array.
+  char* receiveArray(std::string_view bytes, short what);
+
   // What the constructor with a key does. Where memory is out the parser stays one for plain
   // replies.
   void takeKey(char* key, int mode);
@@ -37,6 +40,8 @@ class Receiver {
   void forgetLoss() { mParser.lostBytes = false; }
 
  private:
+  template <class Take>
+  void search(std::string_view bytes, short what, Take take);
   void beginFrame();
   void setBlockLen(std::size_t length);
   bool findFrame(std::string_view work, std::size_t& start, std::size_t& at);

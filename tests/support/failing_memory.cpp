@@ -16,11 +16,14 @@ thread_local long gLeft = 0;  // until the one that fails; below 0 once it was a
 thread_local long gBlocks = 0;
 
 #ifdef TOVI_FAILS_MEMORY
+bool strikes() noexcept {
+  if (!gArmed) return false;
+  --gLeft;
+  return gLeft == 0 || (gLeft < 0 && gFromThenOn);
+}
+
 void* take(std::size_t size) noexcept {
-  if (gArmed) {
-    --gLeft;
-    if (gLeft == 0 || (gLeft < 0 && gFromThenOn)) return nullptr;
-  }
+  if (strikes()) return nullptr;
   void* block = std::malloc(size == 0 ? 1 : size);
   if (block != nullptr) ++gBlocks;
   return block;
@@ -36,10 +39,13 @@ void* takeOrThrow(std::size_t size) {
   throw std::bad_alloc();
 }
 
-// libcrypto's memory is ours, too; it must be told before it takes any.
-void* cryptoTake(std::size_t size, const char*, int) { return size == 0 ? nullptr : take(size); }
+// libcrypto's memory fails as well, but what it keeps is its own affair. It must be told before it
+// takes any.
+void* cryptoTake(std::size_t size, const char*, int) {
+  return size == 0 || strikes() ? nullptr : std::malloc(size);
+}
 void* cryptoResize(void* block, std::size_t size, const char*, int) {
-  return gArmed && take(0) == nullptr ? nullptr : std::realloc(block, size);
+  return strikes() ? nullptr : std::realloc(block, size);
 }
 void cryptoRelease(void* block, const char*, int) { std::free(block); }
 const int gCryptoIsTold = CRYPTO_set_mem_functions(cryptoTake, cryptoResize, cryptoRelease);
