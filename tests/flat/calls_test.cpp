@@ -19,6 +19,8 @@ extern "C" {
 const char* setPowerByByte(const char* ip, unsigned short port, int on);
 const char* setBothPowersByByte(const char* ip, unsigned short port, int on);
 const char* setLinkByByte(const char* ip, unsigned short port, int on);
+const char* setNtpByByte(const char* ip, unsigned short port, int on);
+const char* setSecretByByte(const char* ip, unsigned short port, int withSecondKey);
 void redactByByte(int redact);
 }
 
@@ -89,11 +91,11 @@ const Call kCalls[] = {
      "8A 03 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17 00 01 E8 07 00 00 00 00 01 00 00 00 00 00 "
      "03 00 01 00 00 00 00 00 00 00 00 00 00 00",
      "8B 01", "success"},
-    {"setPlayByTimeList seven tokens", call(setPlayByTimeList, "1-2-3-4-5-6 1-2-3-4-5-6 7 x y z 9"),
+    {"setPlayByTimeList", call(setPlayByTimeList, "1-2-3-4-5-6 1-2-3-4-5-6 7 x y z"),
      "41 02 03 02 01 00 06 05 04 03 02 01 00 06 05 04 07 00 "
      "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",
      "42 01", "success"},
-    {"setBrightnessByTimeList two tokens", call(setBrightnessByTimeList, "a b"), "07 03 00 | 43 00",
+    {"setBrightnessByTimeList too few", call(setBrightnessByTimeList, "a b"), "07 03 00 | 43 00",
      "08 01 | 44 01", "success"},
     {"setAdvanceTiming", call(setAdvanceTiming, "t"), "DC 74", "DC 01", "success"},
     {"removeAdvanceTiming", call(removeAdvanceTiming), "DE 01", "DE 01", "success"},
@@ -199,7 +201,8 @@ const Call kCalls[] = {
     // What is no UTF-8 stays as it came: these are the GBK bytes of the same character.
     {"getDeviceVersion", call(getDeviceVersion), "23", "24 CF DE", "限interfaceEnd"},
     // Bytes of GBK that pass for UTF-8 of characters which GBK lacks, too.
-    {"getDeviceName in GBK", call(getDeviceName), "7E 01", "7F 01 D1 A7 D4 BA", "学院interfaceEnd"},
+    {"getDeviceName in GBK", call(getDeviceName), "7E 01", "7F 01 7F D2 80 D1 A7 D4 BA",
+     "\x7F襽学院interfaceEnd"},
     {"getSn", call(getSn), "D5", "D5 53 4E", "SNinterfaceEnd"},
     {"getMac", call(getMac), "B3", "B3 00 1A 0B 00 FF 05", "0:1a:b:0:ff:5interfaceEnd"},
     {"getCpuAndMemoryInfo", call(getCpuAndMemoryInfo), "AF",
@@ -288,9 +291,12 @@ TEST_F(FlatCalls, ThatAreNotImplementedSaySoAndSendNothing) {
 // Several languages have a byte of ones for true.
 TEST_F(FlatCalls, TakeAnyByteButZeroForTrue) {
   for (const int byte : {1, 2, 0x80, 0xFF}) {
-    for (const auto& [function, request] : {std::pair{&setPowerByByte, "05 01"},
-                                            {&setBothPowersByByte, "25 01"},
-                                            {&setLinkByByte, "F3 01 3C 00 03"}}) {
+    for (const auto& [function, request] :
+         {std::pair{&setPowerByByte, "05 01"},
+          {&setBothPowersByByte, "25 01"},
+          {&setLinkByByte, "F3 01 3C 00 03"},
+          {&setNtpByByte, "97 01 6E"},
+          {&setSecretByByte, "70 00 00 6C 91 21 91 21 61 62 63 64 65 66 67 68"}}) {
       arrive("");
       function(kIp, kPort, byte);
       EXPECT_EQ(sent(), request) << byte;

@@ -30,16 +30,6 @@ TEST_F(ControllerTest, ShowsSettingsInTheStatusBlock) {
   EXPECT_EQ(mAnswer.told, "screen on, brightness 170 (automatic), -127 degrees");
 }
 
-TEST_F(ControllerTest, KeepsQuietWhereNothingIsAwaited) {
-  EXPECT_EQ(ask(0x00, "00"), "");
-  EXPECT_EQ(mController.state().heartBeats, 1U);
-  EXPECT_EQ(ask(0x60, "01"), "");
-  EXPECT_EQ(mAnswer.method, "unknown command");
-  EXPECT_EQ(mAnswer.asked, "0x60, 1 bytes");
-  EXPECT_EQ(ask(0x0114 | 0x8000), "");
-  EXPECT_EQ(mAnswer.asked, "0x8114, 0 bytes");
-}
-
 Exchange exchangeOf(std::string_view frame, const Key& key, std::vector<Fault> faults = {}) {
   FrameReader reader;
   Controller controller;
