@@ -101,13 +101,23 @@ TEST_F(LogTest, WithoutAFolderRecordsAreLostInSilence) {
   tovi_error("nowhere");
   EXPECT_TRUE(fake().files.empty());
   EXPECT_TRUE(fake().madeFolders.empty());
+  // Nor is one that no path can have, with the "log/" that stands behind it.
+  fake().foldersCanBeMade = true;
+  for (const std::size_t length : {4093u, 4092u}) {
+    fake().executableFolder.assign(length, 'x');
+    tovi_set_log_folder(nullptr);
+    tovi_error("far");
+    EXPECT_EQ(fake().files.empty(), length > 4092);
+  }
 }
 
 TEST_F(LogTest, AFileThatIsFullIsSetAside) {
   const std::string first = "2024-01-05 00:00:00 info 1234567890\n\n";
   constexpr char kAside[] = "/host/bin/log/tovisdk_2024-01-05.1.txt";
-  tovi_set_log_limit(static_cast<long long>(2 * first.size()));
+  tovi_set_log_limit(1);
   tovi_info("1234567890");
+  EXPECT_EQ(fake().files.count(kAside), 0u) << "there is nothing to set aside";
+  tovi_set_log_limit(static_cast<long long>(2 * first.size()));
   tovi_info("1234567890");
   EXPECT_EQ(fake().files.count(kAside), 0u) << "just as long as it may be";
   tovi_info("third");

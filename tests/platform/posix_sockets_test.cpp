@@ -176,11 +176,13 @@ TEST_F(PosixSockets, StayOffTheStandardStreamsOfAProcessWithoutThem) {
     ::close(stream);
     near = OwnedSocket(openSocket());
     const OwnedSocket listener(listenOn("127.0.0.1", 0));
+    const int flags = ::fcntl(descriptor(near), F_GETFD);
     const bool leftBehind = ::fcntl(stream, F_GETFD) != -1;
     ::dup2(saved, stream);
     ::close(saved);
     EXPECT_GT(near.get(), 2U) << stream;
     EXPECT_GT(listener.get(), 2U) << stream;
+    EXPECT_EQ(flags, FD_CLOEXEC) << stream;
     EXPECT_FALSE(leftBehind) << stream;
   }
 }

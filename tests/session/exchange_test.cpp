@@ -192,6 +192,8 @@ TEST_F(ExchangeTest, AQueryToAControllerThatClosesIsNull) {
   EXPECT_EQ(access::getData(mTraffic, 0x01, 0x02, 100), nullptr);
   EXPECT_EQ(fake().receiveSizes.size(), 3u);
   EXPECT_EQ(fake().pauses.size(), 2u);
+  EXPECT_TRUE(fake().logged("info ToviTraffic::recv recv start, recv result = 0"));
+  EXPECT_FALSE(fake().logged("info ToviTraffic::recv recv erron = 11"));
   EXPECT_TRUE(fake().logged("error ToviTraffic::getData socket recv error"));
   expectNothingLeft();
 }
