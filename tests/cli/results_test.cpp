@@ -71,6 +71,15 @@ TEST_F(Cli, ReadsWhatItHasSet) {
       {"--json get-device-name",  // which is no UTF-8
        "{\"controller\":\"SIGN\",\"done\":true,\"outcome\":\"done\","
        "\"value\":\"\xEF\xBF\xBD\xEF\xBF\xBD\\\"\\\\\"}\n"},
+      {"backups", "1\n"},
+      {"get-backups-times", "state: 1\ntimes: 0068E5CF8B010000\n"},
+      {"get-pre-stored-screen-enabled", "first: 1\nsecond: 0\n"},
+      {"start-screen-point-detect", "badPoints: 2\n"},
+      {"get-current-resolution", "256x128\n"},
+      {"set-video-control-info 2", "done\n"},
+      {"get-video-control-info", "2\n"},
+      {"set-device-ntp-param on t.example", "done\n"},
+      {"get-device-ntp-param", "enabled: yes\nserver: t.example\n"},
       {"get-brightness-info", "mode: manual\nbrightness: 80\n"},
       {"set-power off", "done\n"},
       {"get-power-state", "off\n"},
