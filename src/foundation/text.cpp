@@ -30,6 +30,7 @@ long long leadingNumber(const std::string& text) {
   std::istringstream stream(text);
   // A host's global locale may group digits.
   stream.imbue(std::locale::classic());
+  stream.exceptions(std::ios::badbit);  // or memory that is out would read as 0
   long long number = 0;
   stream >> number;
   return number;
