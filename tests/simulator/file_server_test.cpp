@@ -64,6 +64,10 @@ TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
   std::filesystem::remove(folder.path("schedules/files/setAutoBrightnessTimeParam"));
   std::ofstream(folder.path("schedules/files/setDevicePowerByTimeList")) << "damaged";
   EXPECT_EQ(Controller({}, {folder.path()}).state().timetables, Timetables{});
+
+  State given;
+  given.timetables.advance = "never kept";
+  EXPECT_EQ(Controller(given, {folder.path()}).handle({0xDE, literal("01")}).told, "accepted");
 }
 
 TEST(FileServer, HasItsFolderAgainButNothingThatAHostLeftUnfinished) {
