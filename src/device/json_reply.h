@@ -16,7 +16,7 @@ namespace tovi::device {
 class JsonReply {
  public:
   explicit JsonReply(std::string_view text)
-      : mUsable(mObject.parseText(text) && !mObject.isArray()) {}
+      : mUsable(mObject.parseText(text) && mObject.isObject()) {}
 
   // Empty when it is missing.
   std::string text(const char* key) const { return mObject.valueText(key); }

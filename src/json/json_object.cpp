@@ -50,6 +50,11 @@ void CJsonObject::clear() {
   mOwnData.reset();
 }
 
+bool CJsonObject::isObject() const {
+  const Node* node = data();
+  return node != nullptr && node->type == NodeType::Object;
+}
+
 bool CJsonObject::isArray() const {
   const Node* node = data();
   return node != nullptr && node->type == NodeType::Array;

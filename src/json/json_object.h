@@ -28,6 +28,7 @@ class CJsonObject {
   // Back to an empty object; ends every wrapper handed out. The error text stays.
   void clear();
 
+  bool isObject() const;
   bool isArray() const;
   std::uint32_t arraySize() const;  // 0 when there is no array
 
