@@ -72,13 +72,9 @@ TEST(Des, DeciphersARaggedTailAsIfZerosFollowed) {
     std::string plain;
   } cases[] = {
       {1 - 0xa8, "a8"},
-      {5 - 0xb1, "3662ba49b1"},
       {7 - 0x1d, "d0ac1656f5bb1d"},
-      {9 - 0x9e, "54686520717569639e"},
       {15 - 0x36, "546865207175696390391f7c2be536"},
-      {20 - 0x74, "54686520717569636b2062726f776e20fe98f974"},
       {31 - 0xab, "54686520717569636b2062726f776e20666f78206a756d701a7c52c7413bab"},
-      {33 - 0x34, "54686520717569636b2062726f776e20666f78206a756d7073206f766572206134"},
   };
   const std::string message = hex(kCiphered);
   for (const auto& [value, plain] : cases) {

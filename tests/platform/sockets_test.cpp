@@ -12,7 +12,6 @@
 #include "loopback.h"
 #include "platform/listener.h"
 #include "platform/system.h"
-#include "tests/support/dead_port.h"
 
 namespace tovi::platform::test {
 namespace {
@@ -53,9 +52,10 @@ TEST_F(Sockets, ReadAddressesAsTheyWereAlwaysRead) {
 }
 
 TEST_F(Sockets, ReportAClosedPort) {
-  const tovi::test::DeadPort port;
-  OwnedSocket socket(openSocket());
-  EXPECT_FALSE(connectSocket(socket.get(), "127.0.0.1", port.number(), kLongMs));
+  connectBothEnds();
+  // Nobody listens at the port of a connection, and nobody else can take it.
+  const OwnedSocket socket(openSocket());
+  EXPECT_FALSE(connectSocket(socket.get(), "127.0.0.1", localPort(near.get()), kLongMs));
   EXPECT_NE(lastSocketError(), 0);
 }
 
@@ -150,6 +150,19 @@ TEST_F(Sockets, TakeWhatAPeerSentBeforeItClosed) {
   int result = 0;
   while (result >= 0 && watch.elapsedMs() < kLongMs) result = sendAll(near.get(), "x", kLongMs);
   EXPECT_EQ(result, -1);
+}
+
+// A kept connection on which anything came, even its end, is not asked again.
+TEST_F(Sockets, AreQuietUntilAnythingArrives) {
+  for (const bool closes : {false, true}) {
+    connectBothEnds();
+    EXPECT_TRUE(isQuiet(near.get()));
+    if (closes) far.close();
+    if (!closes) sendAll(far.get(), "x", kLongMs);
+    Watched waiting[] = {{near.get(), false}};
+    EXPECT_TRUE(waitReadable(waiting, kLongMs));
+    EXPECT_FALSE(isQuiet(near.get()));
+  }
 }
 
 TEST_F(Sockets, TellAReset) {

@@ -138,22 +138,6 @@ TEST_F(ExchangeTest, AReplyMayComeInThreePiecesAndNotInFour) {
   }
 }
 
-TEST_F(ExchangeTest, EachQueryReadsWithRoomOfItsOwn) {
-  const struct {
-    void (*ask)(ToviTraffic&);
-    std::size_t room;
-  } cases[] = {{[](ToviTraffic& t) { t.setPower(true); }, 100},
-               {[](ToviTraffic& t) { t.getSn(); }, 100},
-               {[](ToviTraffic& t) { t.getDeviceType(); }, 4096},
-               {[](ToviTraffic& t) { t.getFileListName(1); }, 8192},
-               {[](ToviTraffic& t) { t.getLogZipPath(); }, 120000}};
-  for (const auto& [ask, room] : cases) {
-    fake().receiveSizes.clear();
-    ask(mTraffic);
-    EXPECT_EQ(fake().receiveSizes, (std::vector<std::size_t>{room, room, room}));
-  }
-}
-
 TEST_F(ExchangeTest, AnOrdinaryReplyHasThreeBuffersOfRoom) {
   // 300 bytes are three reads of 100; one more is out of reach, and stays for nobody.
   struct {
@@ -196,23 +180,6 @@ TEST_F(ExchangeTest, AQueryToAControllerThatClosesIsNull) {
   EXPECT_FALSE(fake().logged("info ToviTraffic::recv recv erron = 11"));
   EXPECT_TRUE(fake().logged("error ToviTraffic::getData socket recv error"));
   expectNothingLeft();
-}
-
-// A line for each: hosts know it.
-TEST_F(ExchangeTest, TheReleaseOfAReplyIsTold) {
-  testing::internal::CaptureStdout();
-  fake().arrive(hex("AA FF FF A9 32 CC 8F 8B"));
-  EXPECT_EQ(mTraffic.getVolumeValue(), 0x32);
-  mTraffic.getVolumeValue();
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "SocketResult delete\n");
-}
-
-TEST_F(ExchangeTest, AQueryOnAHeldConnectionLeavesItOpen) {
-  fake().arrive(hex("AA FF FF 24 56 31 2E 32 CC 67 F4"));
-  const auto result = access::getDataOn(42, mTraffic, 0x23, 0x24);
-  ASSERT_NE(result, nullptr);
-  EXPECT_EQ(result->toStr(1), "V1.2");
-  EXPECT_EQ(fake().opened + fake().closed, 0);
 }
 
 TEST_F(ExchangeTest, ASecondReplyInOneReadWaitsForItsQuestion) {
@@ -304,29 +271,6 @@ TEST_F(ExchangeTest, ExtendedCodesLeadThePayload) {
   mTraffic.setDesKey("12345678");
   EXPECT_EQ(toHex(access::makeSendPacket(mTraffic, 0x0115, "")),
             "AA FF FF EF 3E D9 20 6D DE 08 39 54 CC 0C 8A");
-}
-
-TEST_F(ExchangeTest, TextsMayBeAsLongAsTheirCommandAllows) {
-  const struct {
-    int (ToviTraffic::*set)(const std::string&);
-    std::size_t least, most;
-  } cases[] = {
-      {&ToviTraffic::removeAppPageName, 1, 256}, {&ToviTraffic::sendFtpDownloadaddress, 1, 1024},
-      {&ToviTraffic::updateFileName, 1, 1024},   {&ToviTraffic::connectWifi, 0, 1024},
-      {&ToviTraffic::setFont, 0, 1024},          {&ToviTraffic::setWifiApConfig, 0, 1024},
-      {&ToviTraffic::setSensorInfo, 0, 4096},    {&ToviTraffic::setLoraInfo, 0, 4096},
-      {&ToviTraffic::setAdvanceTiming, 0, 4096}};
-  for (const auto& [set, least, most] : cases) {
-    EXPECT_EQ((mTraffic.*set)(std::string(least, 'x')), -11) << most;
-    EXPECT_EQ((mTraffic.*set)(std::string(most, 'x')), -11) << most;
-    EXPECT_EQ((mTraffic.*set)(std::string(most + 1, 'x')), -15) << most;
-    if (least > 0) {
-      EXPECT_EQ((mTraffic.*set)(""), -15) << most;
-    }
-  }
-  mTraffic.setAesKey("12345678");
-  EXPECT_EQ(mTraffic.setPingIp(std::string(65517, 'x')), -1);
-  EXPECT_EQ(mTraffic.setPingIp(std::string(65518, 'x')), -15);
 }
 
 TEST_F(ExchangeTest, KeysMayBeHiddenFromTheLog) {

@@ -104,6 +104,7 @@ TEST_F(KeySlots, AKeySetAfterTheFirstReplyLeavesTheParserAsItIs) {
   const auto result = access::getDataOn(42, mTraffic, 0x23, 0x24);
   ASSERT_NE(result, nullptr);
   EXPECT_EQ(result->toStr(1), "V1.2");
+  EXPECT_EQ(fake().opened + fake().closed, 0);
 }
 
 }  // namespace

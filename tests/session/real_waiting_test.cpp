@@ -24,7 +24,6 @@ using tovi::test::hex;
 namespace platform = tovi::platform;
 
 constexpr char kAccepted[] = "AA FF FF 08 01 CC 4E 42";
-constexpr char kRefused[] = "AA FF FF 08 00 CC 96 5B";
 
 // A controller whose part the test plays itself, on a thread of its own.
 class Controller {
@@ -118,67 +117,6 @@ TEST(RealWaiting, MeetsEveryFault) {
       EXPECT_EQ(next, 1);
       EXPECT_EQ(simulator.state().brightness, 81);
     }
-  }
-}
-
-TEST(RealWaiting, AnEndlessStreamEndsWithTheTime) {
-  Controller controller([](Controller& self) {
-    const OwnedSocket socket = self.accept();
-    const std::string noise(100, '\x11');
-    while (platform::sendAll(socket.get(), noise, kLongMs) >= 0) {
-    }
-  });
-  ToviTraffic traffic("127.0.0.1", controller.port());
-  traffic.setWaiting(ToviWaiting::UntilTimeout);
-  traffic.setTimeout(50);
-  EXPECT_EQ(traffic.setBrightness(80), -11);
-  EXPECT_EQ(traffic.lastOutcome(), ToviOutcome::NoReply);
-}
-
-TEST(RealKeptConnection, ALateAnswerIsNotTheNextOnes) {
-  Signal answered;
-  Signal sentTwice;
-  Controller controller([&](Controller& self) {
-    const OwnedSocket first = self.accept();
-    self.takeRequest(first);
-    self.answer(first, kAccepted);
-    answered.await();
-    self.answer(first, kRefused);
-    sentTwice.set();
-    const OwnedSocket second = self.accept();
-    self.takeRequest(second);
-    self.answer(second, kAccepted);
-  });
-  ToviTraffic traffic("127.0.0.1", controller.port());
-  traffic.setWaiting(ToviWaiting::UntilTimeout);
-  traffic.setKeepConnection(true);
-  traffic.setTimeout(kLongMs);
-  EXPECT_EQ(traffic.setBrightness(80), 1);
-  answered.set();
-  sentTwice.await();
-  EXPECT_EQ(traffic.setBrightness(80), 1);
-}
-
-TEST(RealKeptConnection, ThatBreaksBehindARequestIsNoReply) {
-  for (const bool reset : {false, true}) {
-    int requests = 0;
-    {
-      Controller controller([&](Controller& self) {
-        const OwnedSocket socket = self.accept();
-        while (requests < 2 && self.takeRequest(socket)) {
-          if (++requests == 1) self.answer(socket, kAccepted);
-        }
-        if (reset) platform::resetOnClose(socket.get());
-      });
-      ToviTraffic traffic("127.0.0.1", controller.port());
-      traffic.setWaiting(ToviWaiting::UntilTimeout);
-      traffic.setKeepConnection(true);
-      traffic.setTimeout(kLongMs);
-      EXPECT_EQ(traffic.setBrightness(80), 1);
-      EXPECT_EQ(traffic.setBrightness(80), -11);
-      EXPECT_EQ(traffic.lastOutcome(), ToviOutcome::NoReply);
-    }
-    EXPECT_EQ(requests, 2) << "nothing is sent twice";
   }
 }
 

@@ -148,7 +148,9 @@ TEST_F(KeptConnection, ServesOperationsOfEveryShape) {
 }
 
 TEST_F(KeptConnection, IsNotKeptBehindWhatFailed) {
+  setAndExpect(kAccepted, 1);
   EXPECT_EQ(mTraffic.setBrightness(80), -11);
+  EXPECT_EQ(fake().sent.size(), 2u) << "nothing is sent twice";
   expectConnections(1, 0);
   EXPECT_EQ(mTraffic.getVolumeValue(), static_cast<char>(0xFF));
   expectConnections(2, 0);

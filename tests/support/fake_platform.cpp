@@ -94,7 +94,7 @@ int receiveSome(Socket, std::span<char> buffer, int timeoutMs, Stop) {
   fake->steadyMs += fake->msPerRead;
   if (fake->incoming.empty()) return -1;
   Incoming& next = fake->incoming.front();
-  int result = next.kind == Incoming::Kind::Failure ? -1 : 0;
+  int result = 0;
   if (next.kind == Incoming::Kind::Bytes) {
     const std::size_t count = next.bytes.copy(buffer.data(), buffer.size());
     next.bytes.erase(0, count);

@@ -16,7 +16,7 @@ namespace tovi::test {
 
 // What one read meets.
 struct Incoming {
-  enum class Kind { Bytes, Closed, Failure };  // Closed holds for every later read
+  enum class Kind { Bytes, Closed };  // Closed holds for every later read
   Kind kind = Kind::Bytes;
   std::string bytes;
 };
@@ -57,7 +57,6 @@ struct FakePlatform {
 
   void arrive(std::string bytes) { incoming.push_back({Incoming::Kind::Bytes, std::move(bytes)}); }
   void close() { incoming.push_back({Incoming::Kind::Closed, {}}); }
-  void fail() { incoming.push_back({Incoming::Kind::Failure, {}}); }
 
   // The messages of all records, "level message" each.
   std::vector<std::string> log() const;

@@ -106,26 +106,6 @@ TEST_F(FileSending, CutsFilesIntoNumberedChunks) {
   }
 }
 
-TEST_F(FileSending, TakesSmallerChunksWhileAKeyIsSet) {
-  tovi_set_log_level(4);
-  for (const auto& [setKey, block] : {std::pair{&ToviTraffic::setDesKey, std::size_t{8}},
-                                      {&ToviTraffic::setAesKey, std::size_t{16}},
-                                      {&ToviTraffic::setSM4Key, std::size_t{16}}}) {
-    ToviTraffic traffic("127.0.0.1", 5005);
-    (traffic.*setKey)("12345678");
-    // Enciphered: number, data and padding.
-    const std::pair<std::size_t, std::vector<std::size_t>> cases[] = {
-        {65516, {65520}}, {65517, {65520, block}}, {65518, {65520, block}}};
-    for (const auto& [size, chunks] : cases) {
-      const std::string path = mFolder.file(pattern(size));
-      EXPECT_EQ(send(traffic, path, static_cast<int>(chunks.size())), 1);
-      std::vector<std::size_t> sizes;
-      for (const std::string& chunk : sentChunks()) sizes.push_back(chunk.size());
-      EXPECT_EQ(sizes, chunks) << block << " " << size;
-    }
-  }
-}
-
 TEST_F(FileSending, EndsBeforeAnythingIsSentWithoutArgumentsOrAConnection) {
   const std::string path = mFolder.file("x");
   EXPECT_EQ(mTraffic.sendFile(nullptr, "a.bin"), -15);
