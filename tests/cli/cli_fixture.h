@@ -31,12 +31,6 @@ inline std::string repeated(const std::string& text, int times) {
   return all;
 }
 
-inline sim::Options withFault(const std::string& fault) {
-  sim::Options options;
-  if (!fault.empty()) options.faults.push_back(sim::parseFault(fault).value());
-  return options;
-}
-
 class Cli : public testing::Test {
  protected:
   // A file of the test's own.

@@ -7,6 +7,7 @@
 #include <mutex>
 
 #include "tests/cli/cli_fixture.h"
+#include "tests/simulator/host.h"
 
 namespace tovi::cli {
 namespace {
@@ -56,7 +57,7 @@ TEST_F(CliHosts, RunAsManyAtATimeAsAsked) {
   std::mutex mutex;
   std::condition_variable changed;
   std::vector<Clock::time_point> asked;
-  sim::Options options = withFault("late-reply=100");
+  sim::Options options = sim::faulty({"late-reply=100"});
   options.onLine = [&](const std::string&) {
     std::unique_lock lock(mutex);
     asked.push_back(Clock::now());
@@ -82,11 +83,6 @@ TEST_F(CliHosts, AreFoundByName) {
   EXPECT_EQ(lost.out,
             "{\"controller\":\"x.invalid:5005\",\"done\":false,\"outcome\":\"no such host\"}\n");
   EXPECT_EQ(lost.err, "tovi: x.invalid:5005 get-sn: no such host\n");
-
-  const std::string hosts = file("hosts", "x.invalid:5005\n" + named + "\n");
-  const Outcome mixed = run("--hosts " + hosts + " set-brightness 80");
-  EXPECT_EQ(mixed.status, 1);
-  EXPECT_EQ(mixed.out, "x.invalid:5005  no such host\n" + named + "  done\n1 done, 1 failed\n");
 
   const Outcome nowhere = run("listen x.invalid:0 get-sn");
   EXPECT_EQ(nowhere.status, 1);

@@ -31,7 +31,6 @@ TEST_F(Cli, RefusesWrongUsageBeforeAnythingIsSent) {
       {"", "a command is missing"},
       {"get-sn", "CONTROLLER, --hosts or listen is required"},
       {"192.168.1:5005 get-sn", "\"192.168.1:5005\" is no controller"},
-      {at, "a command is missing"},
       {at + "set-everything", "\"set-everything\" is no command"},
       {at + "get-sn --everything", "\"--everything\" is no option"},
       {at + "--key des:1234567 get-sn", "--key: a key is des:, aes: or sm4:"},
@@ -40,24 +39,19 @@ TEST_F(Cli, RefusesWrongUsageBeforeAnythingIsSent) {
       {at + "set-brightness 256", "LEVEL: \"256\" is no number from 0 to 255"},
       {at + "set-brightness 80 90", "\"90\" is one argument too many"},
       {at + "set-power 1", "STATE: \"1\" is neither on nor off"},
-      {at + "set-close-screen-temperature 151", "0 to 150"},
       {at + "set-virtual-connection on 59 1", "60 to 65535"},
-      {at + "set-auto-brightness-time-param 0 1", "1 to 255"},
       {at + "set-time 2024-02-30T00:00:00", "TIME"},
       {at + "set-time-and-time-zone 2024-03-01T08:00:00 UTC GMT+00:00", "TIME"},
       {at + "set-time-and-time-zone now \"a b\" GMT+00:00", "ZONE"},
       {at + "set-play-by-time-list", "START END PLAYLIST is required"},
       {at + "set-play-by-time-list " + times + " 80 " + kTime, "has not 3 parts"},
-      {at + "set-play-by-time-list " + times + " 256", "\"256\" is no number from 0 to 255"},
       {at + "set-play-by-time-list none none none", "\"none\" is no time as in"},
       {at + "set-device-power-by-time-list " + kLaterTime + " " + kTime, "is before"},
       {at + "set-device-power-by-time-list" + repeated(" " + times, 256), "more than 255 entries"},
       {at + "set-brightness-auto 1 2 3", "1 to 8 pairs"},
       {at + "set-brightness-auto" + repeated(" 1 2", 9), "1 to 8 pairs"},
-      {at + "set-brightness-auto 1 256", "\"256\" is no number from 0 to 255"},
       {at + "set-device-net-basic-param 1.2.3 1.2.3.4 1.2.3.4 1 1.2.3.4", "IP: \"1.2.3\""},
       {at + "set-rds-road 12a", "DIGITS"},
-      {at + "remove-app-page-name \"\"", "a text of 0 bytes, where 1 to 256 are taken"},
       {at + "set-font " + repeated("x", 1025), "a text of 1025 bytes, where 0 to 1024 are taken"},
       {at + "download-files 1", "no JSON array"},
       {at + "set-device-secret-param label 1:1234567 on", "MODE"},
@@ -71,7 +65,6 @@ TEST_F(Cli, RefusesWrongUsageBeforeAnythingIsSent) {
       {"--hosts " + empty + " get-sn", "names no controller"},
       {at + "get-sn --jobs 0", "1 to 1024"},
       {"--hosts " + fine + " " + at + "get-sn", "give one of"},
-      {at + "listen 0 get-sn", "give one of"},
       {"listen 65536 get-sn", "PORT"},
   };
   for (const auto& [arguments, err] : cases) {
@@ -166,7 +159,6 @@ TEST_F(CliCommands, EndTheirHelpWithTheirCodes) {
   const struct {
     std::string command, codes, text;  // the text's length among the arguments
   } cases[] = {
-      {"get-rds-road", "command 0x9A, reply 0x9A", ""},
       {"set-server-ip-lists", "command 0x010D, reply 0x010D", "  The list\n"},
       {"send-heart-beat", "command 0x00; no reply is awaited", ""},
       {"set-font", "command 0xD2, reply 0xD2; text of at most 1024 bytes", "  At most 1024 bytes"},

@@ -18,30 +18,6 @@ constexpr std::string_view kGetNames = "AA FF FF B0 CC CB A3";
 constexpr std::string_view kNames =
     "AA FF FF B0 01 5B 22 61 2E 74 78 74 22 5D 00 CC E3 A0";  // ["a.txt"]
 
-TEST(FileServer, TakesAFile) {
-  Running simulator;
-  Host host(simulator);
-  host.ask(kName, kNameTaken);
-  host.send("AA FF FF 13 02 00 68 65 6C 6C 6F CC 1C A5");  // chunk 2 before chunk 1
-  host.receive(10);
-  host.ask(kHello, kHelloStored);
-  host.ask("AA FF FF 13 02 00 CC 82 28",
-           "AA FF FF 14 02 00 01 CC 5C E1 AA FF FF F9 01 CC A6 94");  // the end once more
-  host.ask(kGetNames, kNames);
-  EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
-}
-
-TEST(FileServer, TakesACipheredFile) {
-  Running simulator(keyed("des:12345678"));
-  Host host(simulator);
-  host.ask("AA FF FF 11 06 B3 5E 0C CF B1 4A 2C CC 9C 66",
-           "AA FF FF 12 DE EC BA 37 86 7B D1 42 CC 94 B0");
-  host.ask("AA FF FF 13 E1 11 98 A4 9F 77 74 55 CC C4 78",
-           "AA FF FF 14 D3 04 69 8A 15 25 BF F1 CC 07 96 "
-           "AA FF FF F9 DE EC BA 37 86 7B D1 42 CC EC F2");
-  EXPECT_EQ(textOf(simulator.controller().files().read("a.txt").value()), "hello");
-}
-
 TEST(FileServer, HasItsTimetablesAgainAfterARestart) {
   const test::TemporaryFolder folder;
   const auto list = literal("01 02 01 E8 07 05 04 03 1F 0C E9 07 3A 3B 17");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Files, and playlists among them, with what the screen tells of the one that plays.
 #include "tests/simulator/uploads.h"
 
 namespace tovi::sim {
@@ -7,16 +8,6 @@ namespace {
 constexpr std::size_t kFullCiphered = 65517;
 
 using FilesTest = Uploads;
-
-TEST_F(FilesTest, AFileOfOneChunkIsStored) {
-  EXPECT_EQ(name("a.txt"), "12: 01");
-  EXPECT_EQ(ask(0x13, "01 00 68 65 6C 6C 6F"), "14: 01 00 01");
-  EXPECT_EQ(mAnswer.asked, "chunk 1, 5 bytes");
-  EXPECT_EQ(content("a.txt"), "none");  // not before its end
-  EXPECT_EQ(end(), "01");
-  EXPECT_EQ(content("a.txt"), "hello");
-  EXPECT_FALSE(mController.hasWholeFile(mSession));
-}
 
 TEST_F(FilesTest, AChunkThatIsNotFullEndsTheFile) {
   EXPECT_EQ(name("full"), "12: 01");
@@ -93,20 +84,15 @@ TEST_F(FilesTest, WhatIsNotFinishedIsDiscarded) {
   EXPECT_EQ(chunk(2, 0), "14: 02 00 01 | F9: 00");  // refused once more
 }
 
-class SmallStorage : public Uploads {
- protected:
-  SmallStorage() : Uploads({"", 100'000}) {}
-};
-
-TEST_F(SmallStorage, RefusesWhatDoesNotFit) {
+TEST_F(FilesTest, ThatDoNotFitAreRefused) {
   name("a");
-  EXPECT_EQ(chunk(1, kFull), "14: 01 00 01");
-  EXPECT_EQ(chunk(2, kFull), "14: 02 00 00");
+  for (std::uint16_t i = 1; i <= 4; ++i) chunk(i, kFull);
+  EXPECT_EQ(chunk(5, kFull), "14: 05 00 00");
   EXPECT_EQ(mController.files().used(), 0U);
-  EXPECT_EQ(chunk(2, 0), "14: 02 00 00");  // it is lost
+  EXPECT_EQ(chunk(5, 0), "14: 05 00 00");  // it is lost
   name("b");
   EXPECT_EQ(chunk(1, 1000), "14: 01 00 01 | F9: 01");
-  EXPECT_EQ(ask(0x47), "48: 61 00 00 00 60 00 00 00");
+  EXPECT_EQ(ask(0x47), "48: 24 01 00 00 23 01 00 00");
 }
 
 TEST_F(FilesTest, AreToldApartByListsAndCleanUp) {
@@ -129,6 +115,50 @@ TEST_F(FilesTest, AreToldApartByListsAndCleanUp) {
   EXPECT_EQ(ask(0xA7), "A7: 05");
   EXPECT_EQ(ask(0x7C, "00"), "7D: 01");
   EXPECT_EQ(ask(0xA7), "A7:");
+}
+
+using PlaylistsTest = Uploads;
+
+TEST_F(PlaylistsTest, PlayAsNowPlayingTells) {
+  EXPECT_EQ(ask(0x2D), "2E: 02 00 00");
+  EXPECT_EQ(ask(0x3A), "3B: 00");
+  EXPECT_EQ(ask(0xA7), "A7:");
+  EXPECT_EQ(ask(0x1B, "05"), "1C: 00");
+
+  upload("play005.lst");
+  upload("play012.lst", "[x]");
+  upload("play12.lst");  // no playlist
+  EXPECT_EQ(ask(0xA7), "A7: 05 0C");
+  EXPECT_EQ(ask(0x1B, "05"), "1C: 01");
+  EXPECT_EQ(ask(0x2D), "2E: 01 00 05 " + words("play005.lst"));
+  EXPECT_EQ(ask(0x3A), "3B: 05 " + words("[all]"));
+
+  EXPECT_EQ(ask(0xAE, "05"), "AE: 01");
+  EXPECT_EQ(ask(0xAE, "05"), "AE: 00");
+  EXPECT_EQ(ask(0x2D), "2E: 02 00 00");
+  EXPECT_EQ(ask(0xA7), "A7: 0C");
+}
+
+TEST_F(PlaylistsTest, AreFoundByTheLowByteOfTheirNumber) {
+  upload("play044.lst");
+  upload("play300.lst");  // 300 is 44 in a byte
+  EXPECT_EQ(ask(0xA7), "A7: 2C 2C");
+  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
+  EXPECT_EQ(mAnswer.asked, "playlist 300");  // just sent
+  mSession = {};
+  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
+  EXPECT_EQ(mAnswer.asked, "playlist 44");
+  EXPECT_EQ(ask(0xAE, "2C"), "AE: 01");
+  EXPECT_EQ(ask(0x1B, "2C"), "1C: 01");
+  EXPECT_EQ(mAnswer.asked, "playlist 300");
+}
+
+// A host sends a playlist as one chunk and then waits, however long the chunk is.
+TEST_F(PlaylistsTest, AreWholeWithTheirFirstChunk) {
+  name("play001.lst");
+  EXPECT_EQ(chunk(1, kFull), "14: 01 00 01 | F9: 01");
+  EXPECT_EQ(content("play001.lst").size(), kFull);
+  EXPECT_EQ(chunk(2, kFull), "14: 02 00 00");
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ inline constexpr std::size_t kFull = 65535;
 // Sends files, up to the controller.
 class Uploads : public testing::Test, protected AskedController {
  protected:
-  explicit Uploads(Storage::Options files = {}) : AskedController(std::move(files)) {}
+  Uploads() : AskedController({"", 300'000}) {}
 
   std::string name(std::string_view name) { return ask(0x11, "FF FF " + words(name)); }
 
