@@ -31,7 +31,6 @@ constexpr Misbehaviour kMisbehaviours[] = {
     {"close-before", "none", "", End::Close},
     {"close-inside", "none", "AA FF FF 08", End::Close},
     {"close-after", "none", kAccepted, End::Close},
-    {"reset", "none", "", End::Reset},
 };
 
 TEST(SimFaults, ShowOnTheWireForAsLongAsTold) {
@@ -51,6 +50,13 @@ TEST(SimFaults, ShowOnTheWireForAsLongAsTold) {
     next.ask("AA FF FF EF 0C 01 CC 5E C1",
              plain ? "AA FF FF EF 0C 01 00 CC 50 D4" : "AA FF FF EF 0C 01 01 CC 88 CD");
   }
+}
+
+TEST(SimFaults, ResetTheConnection) {
+  Running simulator(faulty({"reset"}));
+  Host host(simulator);
+  host.send(kSetBrightness);
+  EXPECT_EQ(host.end(), End::Reset);
 }
 
 TEST(SimFaults, LeaveWhatFollowsUnheard) {
