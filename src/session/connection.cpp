@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 #include <span>
+#include <string_view>
 #include <utility>
 
 #include "foundation/log.h"
@@ -19,11 +20,11 @@ constexpr int kDefaultTimeout = 20000;
 
 // One that does not fit is kept as the empty text, which no connection attempt accepts.
 void keepAddress(const char* ip, std::span<char> address) {
-  const std::size_t length = ip == nullptr ? address.size() : ::strnlen(ip, address.size());
-  if (length == address.size()) {
+  const std::string_view text(ip, ip == nullptr ? 0 : ::strnlen(ip, address.size()));
+  if (ip == nullptr || text.size() == address.size()) {
     tovi::log::error("ToviTraffic::ToviTraffic address refused");
   } else {
-    std::memcpy(address.data(), ip, length);
+    text.copy(address.data(), text.size());
   }
 }
 

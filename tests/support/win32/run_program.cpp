@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "platform/paths.h"
+#include "platform/system.h"
 
 namespace tovi::test {
 namespace {
@@ -31,13 +32,9 @@ HANDLE open(const std::string& path, DWORD access, DWORD creation) {
                        creation, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-}  // namespace
-
-int runProgram(const std::string& program, const std::vector<std::string>& words,
-               const Streams& streams) {
-  std::wstring line = quoted(wide(program));
-  for (const std::string& word : words) line += L' ' + quoted(wide(word));
-
+// False when nothing was started: with a stream that is none the program would run all the same,
+// and what it says be lost.
+bool startProgram(std::wstring line, const Streams& streams, PROCESS_INFORMATION& child) {
   STARTUPINFOW start{};
   start.cb = sizeof start;
   start.dwFlags = STARTF_USESTDHANDLES;
@@ -45,16 +42,27 @@ int runProgram(const std::string& program, const std::vector<std::string>& words
   start.hStdOutput = open(streams.out, GENERIC_WRITE, CREATE_ALWAYS);
   start.hStdError = open(streams.err, GENERIC_WRITE, CREATE_ALWAYS);
   const HANDLE handles[] = {start.hStdInput, start.hStdOutput, start.hStdError};
-  // With a stream that is none the program would run all the same, and what it says be lost.
   const bool usable = std::none_of(std::begin(handles), std::end(handles),
                                    [](HANDLE handle) { return handle == INVALID_HANDLE_VALUE; });
-  PROCESS_INFORMATION child{};
   const bool started = usable && ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0,
                                                   nullptr, nullptr, &start, &child) != FALSE;
   for (const HANDLE handle : handles) {
     if (handle != INVALID_HANDLE_VALUE) ::CloseHandle(handle);
   }
-  if (!started) return -1;
+  return started;
+}
+
+}  // namespace
+
+int runProgram(const std::string& program, const std::vector<std::string>& words,
+               const Streams& streams) {
+  std::wstring line = quoted(wide(program));
+  for (const std::string& word : words) line += L' ' + quoted(wide(word));
+  PROCESS_INFORMATION child{};
+  // Under load Wine now and then refuses to start one.
+  for (int attempts = 20; !startProgram(line, streams, child); platform::pauseFor(100)) {
+    if (--attempts == 0) return -1;
+  }
   ::WaitForSingleObject(child.hProcess, INFINITE);
   DWORD status = 0;
   const BOOL known = ::GetExitCodeProcess(child.hProcess, &status);
